@@ -1,0 +1,11 @@
+# Writes the first ```c block of README to OUT.
+file(READ ${README} text)
+string(FIND "${text}" "```c\n" start)
+if(start EQUAL -1)
+  message(FATAL_ERROR "README has no ```c block")
+endif()
+math(EXPR start "${start} + 5")
+string(SUBSTRING "${text}" ${start} -1 rest)
+string(FIND "${rest}" "```" stop)
+string(SUBSTRING "${rest}" 0 ${stop} code)
+file(WRITE ${OUT} "${code}")

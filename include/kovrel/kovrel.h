@@ -1,0 +1,17 @@
+/*
+ * kovrel - Eurocontrol ASTERIX decoder and encoder.
+ *
+ * kovrel.h: the umbrella header; includes every public header.
+ */
+#ifndef KOVREL_KOVREL_H
+#define KOVREL_KOVREL_H
+
+#include "kovrel/export.h"
+#include "kovrel/core.h"
+#include "kovrel/codec.h"
+#include "kovrel/fspec.h"
+#include "kovrel/uap.h"
+#include "kovrel/html.h"
+#include "kovrel/enums.h"
+
+#endif /* KOVREL_KOVREL_H */
