@@ -13,5 +13,8 @@
 #include "kovrel/uap.h"
 #include "kovrel/html.h"
 #include "kovrel/enums.h"
+#include "kovrel/dataitem.h"
+#include "kovrel/subfield.h"
+#include "kovrel/cat048.h"
 
 #endif /* KOVREL_KOVREL_H */

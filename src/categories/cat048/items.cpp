@@ -1,0 +1,89 @@
+// CAT048 dispatch rows: size rule and name of every item, and the subfields
+// of the compound items I048/120 and I048/130.
+#include "kovrel/cat048.h"
+#include "record/item_table.h"
+
+namespace kovrel {
+namespace {
+
+constexpr SubfieldRow k120Subfields[] = {
+    {"CAL", "Calculated Doppler Speed", SubfieldRule::Fixed, 2, nullptr, nullptr, nullptr},
+    // RDS is taken as one 7-octet block: its repetition factor is not read.
+    {"RDS", "Raw Doppler Speed", SubfieldRule::Fixed, 7, nullptr, nullptr, nullptr},
+};
+
+constexpr SubfieldRow k130Subfields[] = {
+    {"SRL", "SSR Plot Runlength", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"SRR", "Number of Received Replies for (M)SSR", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"SAM", "Amplitude of (M)SSR Reply", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"PRL", "Primary Plot Runlength", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    // The trailing blank is part of the name that consumers match on.
+    {"PAM", "Amplitude of Primary Plot ", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"RPD", "Difference in Range between PSR and SSR plot", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"APD", "Difference in Azimuth between PSR and SSR plot", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+};
+
+}  // namespace
+
+extern const CompoundItem kCompound048_120;
+extern const CompoundItem kCompound048_130;
+
+}  // namespace kovrel
+
+KOVREL_COMPOUND_ITEM(048_120, 48120, ::kovrel::kCompound048_120)
+KOVREL_COMPOUND_ITEM(048_130, 48130, ::kovrel::kCompound048_130)
+
+namespace kovrel {
+
+constinit const CompoundItem kCompound048_120 = make_compound(2, k120Subfields, KOVREL_SUBFIELD_FUNCS(048_120));
+constinit const CompoundItem kCompound048_130 = make_compound(7, k130Subfields, KOVREL_SUBFIELD_FUNCS(048_130));
+
+namespace {
+
+constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+
+// I048/055, 060 and 065 stand in the UAP but have no row: they cannot be
+// sized, so a record announcing them stops there.
+constexpr ItemRow kRows[] = {
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {20, "Target Report Descriptor", ast_dataitem_get_size_var_2_byte},
+    {40, "Measured Position in Polar Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
+    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
+    {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte},
+    {130, "Radar Plot Characteristics", ast_dataitem_048_130_get_size, kCompoundSummary, kCompoundDetail,
+     nullptr, nullptr, &kCompound048_130},
+    {220, "Aircraft Address", ast_dataitem_get_size_fixed_3_byte},
+    {240, "Aircraft Identification", ast_dataitem_get_size_fixed_6_byte},
+    {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte},
+    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte},
+    {42, "Calculated Position in Cartesian Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
+    // "Ploar" is the name existing consumers display and match on.
+    {200, "Calculated Track Velocity in Ploar Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
+    {170, "Track Status", ast_dataitem_get_size_var_2_byte},
+    {210, "Track Quality", ast_dataitem_get_size_fixed_4_byte},
+    {30, "Warning/Error Conditions", ast_dataitem_get_size_var_23_byte},
+    {80, "Mode-3/A Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte},
+    {100, "Mode-C Code and Code Confidence Indicator", ast_dataitem_get_size_fixed_4_byte},
+    {110, "Height Measured by a 3D Radar", ast_dataitem_get_size_fixed_2_byte},
+    {120, "Radial Doppler Speed", ast_dataitem_048_120_get_size, kCompoundSummary, kCompoundDetail, nullptr,
+     nullptr, &kCompound048_120},
+    {230, "Communications / ACAS Capability and Flight Status", ast_dataitem_get_size_fixed_2_byte},
+    {260, "ACAS Resolution Advisory Report", ast_dataitem_get_size_fixed_7_byte},
+    {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
+};
+
+}  // namespace
+
+constexpr CategoryItems kItems048Table =
+    make_category_items(48, ast_dataitem_048_get_name, "Unknown CAT048 Dataitem", kRows);
+constinit const CategoryItems kItems048 = kItems048Table;
+
+}  // namespace kovrel
+
+extern "C" KOVREL_API const char *ast_dataitem_048_get_name(AstItemId id) {
+    return kovrel::category_item_name(kovrel::kItems048, id);
+}

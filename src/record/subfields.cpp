@@ -1,0 +1,205 @@
+// Compound data items: delimiting, splitting and the generic views.
+#include <cstring>
+
+#include "core/state.h"
+#include "core/text.h"
+#include "kovrel/codec.h"
+#include "kovrel/html.h"
+#include "record/item_table.h"
+#include "record/size_rules.h"
+
+namespace {
+
+const kovrel::CompoundItem *compound_of(AstItemId item) {
+    const kovrel::ItemRow *row = kovrel::find_item_row(item);
+    return row ? row->compound : nullptr;
+}
+
+AstSubfieldFuncs subfield_funcs(uint32_t subfield_id) {
+    AstSubfieldFuncs f;
+    ast_subfield_get_func(&f, subfield_id);
+    return f;
+}
+
+}  // namespace
+
+extern "C" {
+
+KOVREL_API void ast_subfield_get_func(AstSubfieldFuncs *out, uint32_t subfield_id) {
+    if (!out) return;
+    *out = AstSubfieldFuncs{};
+    const kovrel::CompoundItem *c = compound_of(subfield_id / 1000);
+    if (c) *out = c->funcs;
+}
+
+KOVREL_API uint64_t ast_subfield_get_size(const uint8_t *octets, size_t available, uint32_t subfield_id) {
+    const AstSubfieldFuncs f = subfield_funcs(subfield_id);
+    return f.get_size ? f.get_size(octets, available, subfield_id) : 0;
+}
+
+KOVREL_API const char *ast_subfield_get_id(uint32_t subfield_id) {
+    const AstSubfieldFuncs f = subfield_funcs(subfield_id);
+    return f.get_id ? f.get_id(subfield_id) : "---";
+}
+
+KOVREL_API const char *ast_subfield_get_name(uint32_t subfield_id) {
+    const AstSubfieldFuncs f = subfield_funcs(subfield_id);
+    return f.get_name ? f.get_name(subfield_id) : "UNKNOWN_SUBFIELD_NAME";
+}
+
+KOVREL_API void ast_subfield_get_summary(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {
+    const AstSubfieldFuncs f = subfield_funcs(subfield_id);
+    if (f.get_summary)
+        f.get_summary(buffer, size, span, subfield_id);
+    else
+        ast_strncpy(buffer, "NOT_IMPLEMENTED", size);
+}
+
+KOVREL_API void ast_subfield_get_detail_html(char *buffer, size_t size, const AstSubfield *span,
+                                             uint32_t subfield_id) {
+    if (buffer && size > 0) buffer[0] = '\0';
+    const AstSubfieldFuncs f = subfield_funcs(subfield_id);
+    if (f.get_detail_html) f.get_detail_html(buffer, size, span, subfield_id);
+}
+
+KOVREL_API void ast_subfield_get_bin_html(char *buffer, size_t size, const AstSubfield *span) {
+    if (buffer && size > 0) buffer[0] = '\0';
+    if (!span || span->valid != 1 || !span->data) return;
+    ast_html_gen_bin_table(buffer, size, span->data, static_cast<size_t>(span->length));
+}
+
+KOVREL_API uint32_t ast_subfield_get_capabilities(uint32_t subfield_id) {
+    const AstSubfieldFuncs f = subfield_funcs(subfield_id);
+    return (f.get_summary ? 0x2u : 0u) | (f.get_detail_html ? 0x4u : 0u);
+}
+
+KOVREL_API uint64_t ast_subfield_get_size_variable(const uint8_t *octets, size_t available, size_t n) {
+    return kovrel::fx_extended_size(octets, available, n, "Subfield length exceed max: %d");
+}
+
+KOVREL_API uint64_t ast_subfield_get_size_repeated(const uint8_t *octets, size_t available, size_t n) {
+    if (n == 0) return 0;
+    return kovrel::repetitive_size(octets, available, n);
+}
+
+KOVREL_API uint64_t ast_dataitem_subfields_get_size(const uint8_t *octets, size_t available, AstItemId item_id) {
+    AstFspec primary;
+    ast_fspec_decode(&primary, octets, available);
+    if (primary.valid != 1) return 0;
+    uint64_t total = primary.length;
+    for (uint32_t i = 1; i <= primary.frn_count; ++i) {
+        if (!ast_fspec_is_set(&primary, i)) continue;
+        if (total > available) return 0;
+        const uint64_t n = ast_subfield_get_size(octets + total, static_cast<size_t>(available - total),
+                                                 item_id * 1000 + i);
+        total += n;
+    }
+    return total <= available ? total : 0;
+}
+
+KOVREL_API uint32_t ast_dataitem_subfields_get_number(AstItemId item_id) {
+    const kovrel::CompoundItem *c = compound_of(item_id);
+    if (c) return c->subfield_count;
+    if (kovrel::logging_enabled()) {
+        char text[16];
+        ast_dataitem_type_to_str(text, sizeof text, item_id);
+        ast_log(AST_LOG_CRITICAL, "Undefined Subfield %s", text);
+    }
+    return 0;
+}
+
+KOVREL_API void ast_dataitem_subfields_decode(AstSubfieldList *out, const AstDataItem *item) {
+    if (!out) return;
+    std::memset(out, 0, sizeof *out);
+    if (!item || item->valid != 1 || !item->data) return;
+    ast_fspec_decode(&out->primary, item->data, static_cast<size_t>(item->length));
+    if (out->primary.valid != 1) return;
+    const uint32_t count = ast_dataitem_subfields_get_number(item->id);
+    uint64_t pos = out->primary.length;
+    for (uint32_t i = 1; i <= out->primary.frn_count && i <= count && i <= AST_SUBFIELD_MAX; ++i) {
+        AstSubfield &span = out->spans[i - 1];
+        span.id = item->id * 1000 + i;
+        span.valid = 1;
+        if (ast_fspec_is_set(&out->primary, i)) {
+            const size_t left = static_cast<size_t>(item->length - pos);
+            const uint64_t n = ast_subfield_get_size(item->data + pos, left, span.id);
+            if (n > left) {  // a subfield may never point past its item
+                std::memset(out, 0, sizeof *out);
+                return;
+            }
+            span.present = 1;
+            span.data = item->data + pos;
+            span.length = n;
+            pos += n;
+        }
+        out->span_count = i;
+    }
+    out->valid = 1;
+}
+
+KOVREL_API void ast_dataitem_subfields_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                                 const AstDataItem *item) {
+    if (!out) return;
+    const AstItemId id = item ? item->id : 0;
+    *out = AstDataItemValue{0, id, nullptr};
+    if (!storage || storage_size < sizeof(AstSubfieldList) || !item || item->valid != 1) return;
+    AstSubfieldList *list = static_cast<AstSubfieldList *>(storage);
+    ast_dataitem_subfields_decode(list, item);
+    *out = AstDataItemValue{list->valid, id, storage};
+}
+
+KOVREL_API void ast_dataitem_subfields_get_summary(char *buffer, size_t size, const AstDataItem *item) {
+    kovrel::TextWriter w(buffer, size);
+    if (!item || item->valid != 1) return;
+    AstSubfieldList list;
+    ast_dataitem_subfields_decode(&list, item);
+    if (list.valid != 1) return;
+    unsigned present = 0;
+    for (uint64_t i = 0; i < list.span_count; ++i) present += list.spans[i].present;
+    w.appendf("SUBFIELDS:%02u/%02u", present, static_cast<unsigned>(list.span_count));
+}
+
+KOVREL_API void ast_dataitem_subfields_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
+    kovrel::TextWriter w(buffer, size);
+    if (!item || item->valid != 1) return;
+    AstSubfieldList list;
+    ast_dataitem_subfields_decode(&list, item);
+    if (list.valid != 1) return;
+
+    ast_html_gen_title_h4(w.end(), w.end_size(), "Primary Subfield");
+    w.resync();
+    ast_html_gen_table_begin(w.end(), w.end_size());
+    w.resync();
+    ast_html_gen_table_row(w.end(), w.end_size(), 1, "Subfield", "ID", "Name", "Size", "Existing", "Summary",
+                           AST_HTML_TABLE_END_OF_ROW);
+    w.resync();
+    for (uint64_t i = 0; i < list.span_count; ++i) {
+        const AstSubfield &span = list.spans[i];
+        char number[3], length[5], present[4], summary[64];
+        std::snprintf(number, sizeof number, "%zu", static_cast<size_t>(i + 1));
+        std::snprintf(length, sizeof length, "%zu", static_cast<size_t>(span.length));
+        std::snprintf(present, sizeof present, "%d", span.present);
+        ast_subfield_get_summary(summary, sizeof summary, &span, span.id);
+        ast_html_gen_table_row(w.end(), w.end_size(), 0, number, ast_subfield_get_id(span.id),
+                               ast_subfield_get_name(span.id), length, present, summary, AST_HTML_TABLE_END_OF_ROW);
+        w.resync();
+    }
+    ast_html_gen_table_end(w.end(), w.end_size());
+    w.resync();
+
+    for (uint64_t i = 0; i < list.span_count && !w.full(); ++i) {
+        const AstSubfield &span = list.spans[i];
+        if (span.valid != 1 || span.present != 1) continue;
+        ast_html_gen_title_h4(w.end(), w.end_size(), "Subfield #%u - %s", static_cast<unsigned>(i + 1),
+                              ast_subfield_get_name(span.id));
+        w.resync();
+        ast_html_gen_bin_table(w.end(), w.end_size(), span.data, static_cast<size_t>(span.length));
+        w.resync();
+        ast_html_gen_para(w.end(), w.end_size(), "%s", "");
+        w.resync();
+        ast_subfield_get_detail_html(w.end(), w.end_size(), &span, span.id);
+        w.resync();
+    }
+}
+
+}  // extern "C"
