@@ -19,7 +19,7 @@ namespace kovrel {
 // How a subfield is delimited.
 enum class SubfieldRule : uint8_t {
     None,      // no size function: the subfield adds 0 octets
-    Fixed,     // n octets
+    Fixed,     // n octets (not compared with the octets available)
     Variable,  // FX-extended, at most n octets
     Repeated,  // 1 + n x first octet
     Custom,    // the row's own size function

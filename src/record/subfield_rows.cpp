@@ -19,7 +19,10 @@ uint64_t subfield_row_size(const CompoundItem &c, AstItemId item, const uint8_t 
     const SubfieldRow *r = row_of(c, item, subfield_id);
     if (!r || !octets) return 0;
     switch (r->rule) {
-        case SubfieldRule::Fixed: return available >= r->n ? r->n : 0;
+        // A fixed subfield is as long as its layout whatever follows: the
+        // compound size then exceeds the octets available and the whole item
+        // is refused, instead of a cut item being delimited short.
+        case SubfieldRule::Fixed: return r->n;
         case SubfieldRule::Variable: return ast_subfield_get_size_variable(octets, available, r->n);
         case SubfieldRule::Repeated: return ast_subfield_get_size_repeated(octets, available, r->n);
         case SubfieldRule::Custom: return r->size_fn ? r->size_fn(octets, available) : 0;

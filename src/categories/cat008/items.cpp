@@ -1,15 +1,53 @@
-// Placeholder: being written.
+// CAT008 dispatch rows (monoradar derived weather information, edition 1.3
+// of the category): size rule and name of every item of the standard UAP.
+#include "kovrel/cat008.h"
+#include "kovrel/core.h"
 #include "record/item_table.h"
 
-extern "C" KOVREL_API const char *ast_dataitem_008_get_name(AstItemId id);
+// I008/100 opens with a first part of three octets; only the third octet
+// carries an FX bit. Edition 1.3 defines no extent beyond the first part, so
+// an FX bit set there is treated like the variable rule's overlong chain:
+// the item is cut off when nothing follows, otherwise the record goes on
+// after the three octets defined.
+extern "C" KOVREL_API uint64_t ast_dataitem_008_100_get_size(const uint8_t *octets, size_t available) {
+    constexpr size_t kFirstPart = 3;
+    if (!octets || available < kFirstPart) return 0;
+    if ((octets[kFirstPart - 1] & 0x01u) == 0) return kFirstPart;
+    if (available == kFirstPart) return 0;
+    ast_log(AST_LOG_CRITICAL, "Dataitem length exceed max: %d", static_cast<int>(kFirstPart));
+    return kFirstPart;
+}
 
 namespace kovrel {
 namespace {
+
 constexpr ItemRow kRows[] = {
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
+    {20, "Vector Qualifier", ast_dataitem_get_size_var_2_byte},
+    // X, Y and length: one octet each.
+    {36, "Sequence of Cartesian Vectors in SPF Notation", ast_dataitem_get_size_rep_3_byte},
+    // Start range, end range (one octet each) and a two-octet azimuth.
+    {34, "Sequence of Polar Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte},
+    {40, "Contour Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {50, "Sequence of Contour Points in SPF Notation", ast_dataitem_get_size_rep_2_byte},
+    {90, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {100, "Processing Status", ast_dataitem_008_100_get_size},
+    // A chain of seven-bit status words, each octet extended by its FX bit,
+    // with no upper bound in the category.
+    {110, "Station Configuration Status", ast_dataitem_get_size_var_unlimited},
+    {120, "Total Number of Items Constituting One Weather Picture", ast_dataitem_get_size_fixed_2_byte},
+    {38, "Sequence of Weather Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems008 = make_category_items(8, ast_dataitem_008_get_name, "Unknown CAT008 Dataitem", kRows);
+
+constexpr CategoryItems kItems008Table =
+    make_category_items(8, ast_dataitem_008_get_name, "Unknown CAT008 Dataitem", kRows);
+constinit const CategoryItems kItems008 = kItems008Table;
+
 }  // namespace kovrel
 
 extern "C" KOVREL_API const char *ast_dataitem_008_get_name(AstItemId id) {

@@ -1,15 +1,35 @@
-// Placeholder: being written.
+// CAT019 dispatch rows (multilateration system status messages, edition 1.3
+// of the category): size rule and name of every item of the standard UAP.
+// The category has no compound items.
+#include "kovrel/cat019.h"
 #include "record/item_table.h"
-
-extern "C" KOVREL_API const char *ast_dataitem_019_get_name(AstItemId id);
 
 namespace kovrel {
 namespace {
+
 constexpr ItemRow kRows[] = {
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {550, "System Status", ast_dataitem_get_size_fixed_1_byte},
+    {551, "Tracking Processor Detailed Status", ast_dataitem_get_size_fixed_1_byte},
+    // Remote sensor identifier and its status octet.
+    {552, "Remote Sensor Detailed Status", ast_dataitem_get_size_rep_2_byte},
+    // Two reference transponders per octet, two octets in edition 1.3.
+    {553, "Reference Transponder Detailed Status", ast_dataitem_get_size_var_2_byte},
+    {600, "Position of the MLT System Reference Point", ast_dataitem_get_size_fixed_8_byte},
+    {610, "Height of the MLT System Reference Point", ast_dataitem_get_size_fixed_2_byte},
+    {620, "WGS-84 Undulation", ast_dataitem_get_size_fixed_1_byte},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems019 = make_category_items(19, ast_dataitem_019_get_name, "Unknown CAT019 Dataitem", kRows);
+
+constexpr CategoryItems kItems019Table =
+    make_category_items(19, ast_dataitem_019_get_name, "Unknown CAT019 Dataitem", kRows);
+constinit const CategoryItems kItems019 = kItems019Table;
+
 }  // namespace kovrel
 
 extern "C" KOVREL_API const char *ast_dataitem_019_get_name(AstItemId id) {

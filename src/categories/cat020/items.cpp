@@ -1,15 +1,83 @@
-// Placeholder: being written.
+// CAT020 dispatch rows (multilateration target reports, edition 1.11 of the
+// category): size rule and name of every item of the standard UAP, and the
+// subfields of the compound item I020/500.
+#include "kovrel/cat020.h"
 #include "record/item_table.h"
-
-extern "C" KOVREL_API const char *ast_dataitem_020_get_name(AstItemId id);
 
 namespace kovrel {
 namespace {
+
+constexpr SubfieldRow k500Subfields[] = {
+    // DOP of x, y and their correlation: two octets each.
+    {"DOP", "DOP of Position", SubfieldRule::Fixed, 6, nullptr, nullptr, nullptr},
+    // Sigma x, sigma y and their correlation: two octets each.
+    {"SDP", "Standard Deviation of Position", SubfieldRule::Fixed, 6, nullptr, nullptr, nullptr},
+    {"SDH", "Standard Deviation of Geometric Height (WGS 84)", SubfieldRule::Fixed, 2, nullptr, nullptr, nullptr},
+};
+
+}  // namespace
+
+extern const CompoundItem kCompound020_500;
+
+}  // namespace kovrel
+
+KOVREL_COMPOUND_ITEM(020_500, 20500, ::kovrel::kCompound020_500)
+
+namespace kovrel {
+
+constinit const CompoundItem kCompound020_500 = make_compound(3, k500Subfields, KOVREL_SUBFIELD_FUNCS(020_500));
+
+namespace {
+
 constexpr ItemRow kRows[] = {
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    // Three octets since edition 1.10 added the CF octet; edition 1.9 data,
+    // which stops after two, is read the same.
+    {20, "Target Report Descriptor", ast_dataitem_get_size_var_3_byte},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    // The capital "In" is the edition's own spelling.
+    {41, "Position In WGS-84 Coordinates", ast_dataitem_get_size_fixed_8_byte},
+    // x and y: three octets each.
+    {42, "Position in Cartesian Coordinates", ast_dataitem_get_size_fixed_6_byte},
+    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte},
+    {170, "Track Status", ast_dataitem_get_size_var_2_byte},
+    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
+    {202, "Calculated Track Velocity in Cartesian Coordinates", ast_dataitem_get_size_fixed_4_byte},
+    {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte},
+    // Validity bits and the Gray-coded Mode C reply, then its quality-pulse
+    // bits: two octets each.
+    {100, "Mode C Code", ast_dataitem_get_size_fixed_4_byte},
+    {220, "Target Address", ast_dataitem_get_size_fixed_3_byte},
+    // Status octet and six octets of six-bit characters.
+    {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte},
+    {110, "Measured Height (Local Cartesian Coordinates)", ast_dataitem_get_size_fixed_2_byte},
+    {105, "Geometric Height (WGS-84)", ast_dataitem_get_size_fixed_2_byte},
+    {210, "Calculated Acceleration", ast_dataitem_get_size_fixed_2_byte},
+    {300, "Vehicle Fleet Identification", ast_dataitem_get_size_fixed_1_byte},
+    {310, "Pre-programmed Message", ast_dataitem_get_size_fixed_1_byte},
+    {500, "Position Accuracy", ast_dataitem_020_500_get_size, ast_dataitem_subfields_get_summary,
+     ast_dataitem_subfields_get_detail_html, nullptr, nullptr, &kCompound020_500},
+    // One octet of eight contribution bits per repetition.
+    {400, "Contributing Devices", ast_dataitem_get_size_rep_1_byte},
+    // Seven octets of register data and the register address octet.
+    {250, "BDS Register Data", ast_dataitem_get_size_rep_8_byte},
+    {230, "Communications/ACAS Capability and Flight Status", ast_dataitem_get_size_fixed_2_byte},
+    {260, "ACAS Resolution Advisory Report", ast_dataitem_get_size_fixed_7_byte},
+    // Seven-bit warning/error values, each octet extended by its FX bit,
+    // with no upper bound in the category.
+    {30, "Warning/Error Conditions", ast_dataitem_get_size_var_unlimited},
+    {55, "Mode-1 Code in Octal Representation", ast_dataitem_get_size_fixed_1_byte},
+    {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems020 = make_category_items(20, ast_dataitem_020_get_name, "Unknown CAT020 Dataitem", kRows);
+
+constexpr CategoryItems kItems020Table =
+    make_category_items(20, ast_dataitem_020_get_name, "Unknown CAT020 Dataitem", kRows);
+constinit const CategoryItems kItems020 = kItems020Table;
+
 }  // namespace kovrel
 
 extern "C" KOVREL_API const char *ast_dataitem_020_get_name(AstItemId id) {

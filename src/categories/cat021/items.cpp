@@ -1,17 +1,107 @@
-// Placeholder: being written.
+// CAT021 dispatch rows: size rule and name of every item of the editions
+// 0.23, 0.26, 2.1 and 2.7, including the old-edition items 21902..21911 that
+// stand in for items whose layout changed between the early editions and
+// the later ones.
+#include "categories/cat021/subfields.h"
+#include "kovrel/cat021.h"
 #include "record/item_table.h"
 
-extern "C" KOVREL_API const char *ast_dataitem_021_get_name(AstItemId id);
+// Surface capabilities of editions 1.0 to 2.1: one octet, or two when the
+// FX bit of the first is set. The second octet's own FX bit is not looked
+// at, so a longer chain ends after two octets.
+extern "C" KOVREL_API uint64_t ast_dataitem_021_A07_get_size(const uint8_t *octets, size_t available) {
+    if (!octets || available == 0) return 0;
+    if ((octets[0] & 0x01u) == 0) return 1;
+    return available >= 2 ? 2 : 0;
+}
 
 namespace kovrel {
 namespace {
+
+constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+
+// Rows without a name (110, 148, 165, 220) are delimited but have no
+// display name of their own: the name function answers "Unknown CAT021
+// Dataitem" for them, which is what existing consumers show.
 constexpr ItemRow kRows[] = {
+    {8, "Aircraft Operational Status", ast_dataitem_get_size_fixed_1_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte},
+    {16, "Service Management", ast_dataitem_get_size_fixed_1_byte},
+    {20, "Emitter Category", ast_dataitem_get_size_fixed_1_byte},
+    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {32, "Time of Day Accuracy", ast_dataitem_get_size_fixed_1_byte},
+    // Up to three octets are decoded; later editions add extensions, which
+    // the size rule walks over so the rest of the record stays readable.
+    {40, "Target Report Descriptor", ast_dataitem_get_size_var_unlimited},
+    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
+    {71, "Time of Applicability for Position", ast_dataitem_get_size_fixed_3_byte},
+    {72, "Time of Applicability for Velocity", ast_dataitem_get_size_fixed_3_byte},
+    {73, "Time of Message Reception for Position", ast_dataitem_get_size_fixed_3_byte},
+    {74, "Time of Message Reception of Position - High Precision", ast_dataitem_get_size_fixed_4_byte},
+    {75, "Time of Message Reception for Velocity", ast_dataitem_get_size_fixed_3_byte},
+    {76, "Time of Message Reception of Velocity - High Precision", ast_dataitem_get_size_fixed_4_byte},
+    {77, "Time of ASTERIX Report Transmission", ast_dataitem_get_size_fixed_3_byte},
+    {80, "Target Address", ast_dataitem_get_size_fixed_3_byte},
+    {90, "Quality Indicators", ast_dataitem_get_size_var_4_byte},
+    {95, "Velocity Accuracy", ast_dataitem_get_size_fixed_1_byte},
+    {110, nullptr, ast_dataitem_021_110_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
+     &kCompound021_110},
+    {130, "Position in WGS84 Coordinates", ast_dataitem_get_size_fixed_6_byte},
+    {131, "High-Resolution Position in WGS-84 Coordinates", ast_dataitem_get_size_fixed_8_byte},
+    {132, "Message Amplitude", ast_dataitem_get_size_fixed_1_byte},
+    {140, "Geometric Altitude", ast_dataitem_get_size_fixed_2_byte},
+    {145, "Flight Level", ast_dataitem_get_size_fixed_2_byte},
+    {146, "Selected Altitude", ast_dataitem_get_size_fixed_2_byte},
+    {148, nullptr, ast_dataitem_get_size_fixed_2_byte},
+    {150, "Air Speed", ast_dataitem_get_size_fixed_2_byte},
+    {151, "True Air Speed", ast_dataitem_get_size_fixed_2_byte},
+    {152, "Magnetic Heading", ast_dataitem_get_size_fixed_2_byte},
+    {155, "Barometric Vertical Rate", ast_dataitem_get_size_fixed_2_byte},
+    {157, "Geometric Vertical Rate", ast_dataitem_get_size_fixed_2_byte},
+    {160, "Airborne Ground Vector", ast_dataitem_get_size_fixed_4_byte},
+    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte},
+    // Sized as the two octets of editions 1.x and later; the FX-extended
+    // rate of turn of editions 0.23/0.26 shares the number.
+    {165, nullptr, ast_dataitem_get_size_fixed_2_byte},
+    {170, "Target Identification", ast_dataitem_get_size_fixed_6_byte},
+    {200, "Target Status", ast_dataitem_get_size_fixed_1_byte},
+    {210, "MOPS Version", ast_dataitem_get_size_fixed_1_byte},
+    {220, nullptr, ast_dataitem_021_220_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
+     &kCompound021_220},
+    {230, "Roll Angle", ast_dataitem_get_size_fixed_2_byte},
+    {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte},
+    {260, "ACAS Resolution Advisory Report", ast_dataitem_get_size_fixed_7_byte},
+    {271, "Surface Capabilities and Characteristics (Ver >= 2.2)", ast_dataitem_get_size_var_2_byte},
+    {295, "Data Ages", ast_dataitem_021_295_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
+     &kCompound021_295},
+    {400, "Receiver ID", ast_dataitem_get_size_fixed_1_byte},
+    // Items of the editions 0.23 and 0.26 (and 1.0 to 2.1 for 907).
+    {902, "Position in WGS84 Coordinates (0.23 < Ver <= 0.26)", ast_dataitem_get_size_fixed_8_byte},
+    {903, "Target Report Descriptor (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte},
+    {904, "Signal Amplitude (Ver = 0.26)", ast_dataitem_get_size_fixed_1_byte},
+    {905, "Figure of Merit (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte},
+    {906, "Link Technology Indicator (Ver <= 0.26)", ast_dataitem_get_size_fixed_1_byte},
+    {907, "Surface Capabilities and Characteristics (1.0 <= Ver < 2.2)", ast_dataitem_021_A07_get_size},
+    {908, "Target Status (Ver <= 0.26)", ast_dataitem_get_size_fixed_1_byte},
+    {909, "Barometric Vertical Rate (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte},
+    {910, "Geometric Vertical Rate (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte},
+    {911, "Ground Vector (Ver <= 0.26)", ast_dataitem_get_size_fixed_4_byte},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems021 = make_category_items(21, ast_dataitem_021_get_name, "Unknown CAT021 Dataitem", kRows);
+
+constexpr CategoryItems kItems021Table =
+    make_category_items(21, ast_dataitem_021_get_name, "Unknown CAT021 Dataitem", kRows);
+constinit const CategoryItems kItems021 = kItems021Table;
+
 }  // namespace kovrel
 
+// Only identifiers among the item numbers of the category (21008..21399)
+// are reported when unknown; anything else is answered quietly.
 extern "C" KOVREL_API const char *ast_dataitem_021_get_name(AstItemId id) {
-    return kovrel::category_item_name(kovrel::kItems021, id);
+    return kovrel::category_item_name(kovrel::kItems021, id, id >= 21008 && id <= 21399);
 }

@@ -1,17 +1,49 @@
-// Placeholder: being written.
+// CAT023 dispatch rows: size rule and name of every item, and the size
+// rule of I023/101, whose FX chain does not start in its first octet.
+#include "kovrel/cat023.h"
+#include "kovrel/core.h"
 #include "record/item_table.h"
 
-extern "C" KOVREL_API const char *ast_dataitem_023_get_name(AstItemId id);
+// I023/101 Ground Station Configuration: octet 1 is the report period as a
+// whole octet, octet 2 carries SC and the first FX bit, and an optional
+// octet 3 the status report period with the last FX bit. Three octets is the
+// longest form; an FX bit still set there is logged and the item ends after
+// it all the same, so the record goes on reading.
+extern "C" KOVREL_API uint64_t ast_dataitem_023_101_get_size(const uint8_t *octets, size_t available) {
+    if (!octets || available < 2) return 0;
+    if ((octets[1] & 0x01u) == 0) return 2;
+    if (available < 3) return 0;
+    if ((octets[2] & 0x01u) != 0) ast_log(AST_LOG_CRITICAL, "Dataitem I023/101 length exceed max: %d", 3);
+    return 3;
+}
 
 namespace kovrel {
 namespace {
+
 constexpr ItemRow kRows[] = {
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {0, "Report Type", ast_dataitem_get_size_fixed_1_byte},
+    {15, "Service Type and Identification", ast_dataitem_get_size_fixed_1_byte},
+    {70, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {100, "Ground Station Status", ast_dataitem_get_size_var_unlimited},
+    {101, "Ground Station Configuration", ast_dataitem_023_101_get_size},
+    {200, "Operational Range", ast_dataitem_get_size_fixed_1_byte},
+    {110, "Service Status", ast_dataitem_get_size_var_unlimited},
+    // REP entries of TYPE, REF/spare and a 32-bit counter.
+    {120, "Service Statistics", ast_dataitem_get_size_rep_6_byte},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems023 = make_category_items(23, ast_dataitem_023_get_name, "Unknown CAT023 Dataitem", kRows);
+
+constexpr CategoryItems kItems023Table =
+    make_category_items(23, ast_dataitem_023_get_name, "Unknown CAT023 Dataitem", kRows);
+constinit const CategoryItems kItems023 = kItems023Table;
+
 }  // namespace kovrel
 
+// Unknown identifiers are answered with the fallback name without a log line.
 extern "C" KOVREL_API const char *ast_dataitem_023_get_name(AstItemId id) {
-    return kovrel::category_item_name(kovrel::kItems023, id);
+    return kovrel::category_item_name(kovrel::kItems023, id, false);
 }

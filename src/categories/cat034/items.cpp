@@ -1,15 +1,82 @@
-// Placeholder: being written.
+// CAT034 dispatch rows: size rule and name of every item, and the subfields
+// of the compound items I034/050 and I034/060.
+#include "kovrel/cat034.h"
 #include "record/item_table.h"
-
-extern "C" KOVREL_API const char *ast_dataitem_034_get_name(AstItemId id);
 
 namespace kovrel {
 namespace {
+
+// Subfields 2 and 3 of both compound items are spare bits of the primary
+// subfield: a sender that sets them adds no octets. Subfield 7 has no data
+// either, but keeps the name "Spare" (and only the name) so that a detail
+// view of a primary subfield with bit 7 set reads sensibly.
+constexpr SubfieldRow k050Subfields[] = {
+    {"COM", "Common Elements of System", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"---", "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
+    {"---", "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
+    {"PSR", "PSR Sensor Specific Status Information", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"SSR", "SSR Sensor Specific Status Information", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"MDS", "MODE-S Sensor Specific Status Information", SubfieldRule::Fixed, 2, nullptr, nullptr, nullptr},
+    {nullptr, "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
+};
+
+constexpr SubfieldRow k060Subfields[] = {
+    {"COM", "Common Elements of System", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"---", "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
+    {"---", "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
+    {"PSR", "PSR Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"SSR", "SSR Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"MDS", "Mode S Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {nullptr, "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
+};
+
+}  // namespace
+
+extern const CompoundItem kCompound034_050;
+extern const CompoundItem kCompound034_060;
+
+}  // namespace kovrel
+
+KOVREL_COMPOUND_ITEM(034_050, 34050, ::kovrel::kCompound034_050)
+KOVREL_COMPOUND_ITEM(034_060, 34060, ::kovrel::kCompound034_060)
+
+namespace kovrel {
+
+constinit const CompoundItem kCompound034_050 = make_compound(7, k050Subfields, KOVREL_SUBFIELD_FUNCS(034_050));
+constinit const CompoundItem kCompound034_060 = make_compound(7, k060Subfields, KOVREL_SUBFIELD_FUNCS(034_060));
+
+namespace {
+
+constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+
+// I034/100 (Generic Polar Window) stands in the UAP but has no row: it
+// cannot be sized, so a record announcing it stops there.
 constexpr ItemRow kRows[] = {
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
+    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {20, "Sector Number", ast_dataitem_get_size_fixed_1_byte},
+    {41, "Antenna Rotation Period", ast_dataitem_get_size_fixed_2_byte},
+    {50, "Station Configuration & Status", ast_dataitem_034_050_get_size, kCompoundSummary, kCompoundDetail,
+     nullptr, nullptr, &kCompound034_050},
+    {60, "System Processing Mode", ast_dataitem_034_060_get_size, kCompoundSummary, kCompoundDetail, nullptr,
+     nullptr, &kCompound034_060},
+    {70, "Message Count Values", ast_dataitem_get_size_rep_2_byte},
+    {110, "Data Filter", ast_dataitem_get_size_fixed_1_byte},
+    // "Of" with a capital O is the name existing consumers display and match on.
+    {120, "3D-Position Of Data Source", ast_dataitem_get_size_fixed_8_byte},
+    {90, "Collimation Error", ast_dataitem_get_size_fixed_2_byte},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems034 = make_category_items(34, ast_dataitem_034_get_name, "Unknown CAT034 Dataitem", kRows);
+
+constexpr CategoryItems kItems034Table =
+    make_category_items(34, ast_dataitem_034_get_name, "Unknown CAT034 Dataitem", kRows);
+constinit const CategoryItems kItems034 = kItems034Table;
+
 }  // namespace kovrel
 
 extern "C" KOVREL_API const char *ast_dataitem_034_get_name(AstItemId id) {

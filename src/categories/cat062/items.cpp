@@ -1,15 +1,74 @@
-// Placeholder: being written.
+// CAT062 dispatch rows: size rule and name of every item of the system track
+// UAP, and the size rule of I062/510 Composed Track Number.
+#include "categories/cat062/subfields.h"
+#include "kovrel/cat062.h"
 #include "record/item_table.h"
 
-extern "C" KOVREL_API const char *ast_dataitem_062_get_name(AstItemId id);
+// I062/510 is a chain of 3-octet groups (system unit identification and
+// track number), the last octet of each group ending in an FX bit. The
+// answer is never 0: a chain cut short ends at its last whole group, and
+// fewer than 3 octets still answer 3 (the scan then refuses the item, as it
+// does not fit). Only octets inside `available` are read.
+extern "C" KOVREL_API uint64_t ast_dataitem_062_510_get_size(const uint8_t *octets, size_t available) {
+    uint64_t length = 3;
+    if (!octets) return length;
+    while (length <= available && (octets[length - 1] & 0x01u) != 0 && length + 3 <= available) length += 3;
+    return length;
+}
 
 namespace kovrel {
 namespace {
+
+constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+
 constexpr ItemRow kRows[] = {
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte},
+    {70, "Time of Track Information", ast_dataitem_get_size_fixed_3_byte},
+    {105, "Calculated Position in WGS84 Coordinates", ast_dataitem_get_size_fixed_8_byte},
+    {100, "Calculated Track Position (Cartesian)", ast_dataitem_get_size_fixed_6_byte},
+    {185, "Calculated Track Velocity (Cartesian)", ast_dataitem_get_size_fixed_4_byte},
+    {210, "Calculated Acceleration (Cartesian)", ast_dataitem_get_size_fixed_2_byte},
+    {60, "Track Mode 3/A Code", ast_dataitem_get_size_fixed_2_byte},
+    {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte},
+    {380, "Aircraft Derived Data", ast_dataitem_062_380_get_size, kCompoundSummary, kCompoundDetail, nullptr,
+     nullptr, &kCompound062_380},
+    {40, "Track Number", ast_dataitem_get_size_fixed_2_byte},
+    {80, "Track Status", ast_dataitem_get_size_var_6_byte},
+    {290, "System Track Update Ages", ast_dataitem_062_290_get_size, kCompoundSummary, kCompoundDetail, nullptr,
+     nullptr, &kCompound062_290},
+    {200, "Mode of Movement", ast_dataitem_get_size_fixed_1_byte},
+    {295, "Track Data Age", ast_dataitem_062_295_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
+     &kCompound062_295},
+    {136, "Measured Flight Level", ast_dataitem_get_size_fixed_2_byte},
+    {130, "Calculated Track Geometric Altitude", ast_dataitem_get_size_fixed_2_byte},
+    {135, "Calculated Track Barometric Altitude", ast_dataitem_get_size_fixed_2_byte},
+    {220, "Calculated Rate of Climb/Descent", ast_dataitem_get_size_fixed_2_byte},
+    {390, "Flight Plan Related Data", ast_dataitem_062_390_get_size, kCompoundSummary, kCompoundDetail, nullptr,
+     nullptr, &kCompound062_390},
+    {270, "Target Size & Orientation", ast_dataitem_get_size_var_3_byte},
+    {300, "Vehicle Fleet Identification", ast_dataitem_get_size_fixed_1_byte},
+    {110, "Mode 5 Data reports & Extended Mode 1 Code", ast_dataitem_062_110_get_size, kCompoundSummary,
+     kCompoundDetail, nullptr, nullptr, &kCompound062_110},
+    {120, "Track Mode 2 Code", ast_dataitem_get_size_fixed_2_byte},
+    {510, "Composed Track Number", ast_dataitem_062_510_get_size},
+    {500, "Estimated Accuracies", ast_dataitem_062_500_get_size, kCompoundSummary, kCompoundDetail, nullptr,
+     nullptr, &kCompound062_500},
+    {340, "Measured Information", ast_dataitem_062_340_get_size, kCompoundSummary, kCompoundDetail, nullptr,
+     nullptr, &kCompound062_340},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
+    // CAT062 titles its special purpose field differently from the other
+    // categories; consumers display and match on this text.
+    {999, "Reserved For Special Purpose Indicator", ast_dataitem_special_purpose_field_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems062 = make_category_items(62, ast_dataitem_062_get_name, "Unknown CAT062 Dataitem", kRows);
+
+constexpr CategoryItems kItems062Table =
+    make_category_items(62, ast_dataitem_062_get_name, "Unknown CAT062 Dataitem", kRows);
+constinit const CategoryItems kItems062 = kItems062Table;
+
 }  // namespace kovrel
 
 extern "C" KOVREL_API const char *ast_dataitem_062_get_name(AstItemId id) {

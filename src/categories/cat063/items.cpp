@@ -1,17 +1,38 @@
-// Placeholder: being written.
+// CAT063 dispatch rows: size rule and name of every item.
+#include "kovrel/cat063.h"
 #include "record/item_table.h"
-
-extern "C" KOVREL_API const char *ast_dataitem_063_get_name(AstItemId id);
 
 namespace kovrel {
 namespace {
+
 constexpr ItemRow kRows[] = {
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte},
+    {30, "Time of Message", ast_dataitem_get_size_fixed_3_byte},
+    // SAC/SIC of the sensor the report is about.
+    {50, "Sensor Identifier", ast_dataitem_get_size_fixed_2_byte},
+    // Later editions add octets to the chain; they are delimited, not read.
+    {60, "Sensor Configuration and Status", ast_dataitem_get_size_var_unlimited},
+    {70, "Time Stamping Bias", ast_dataitem_get_size_fixed_2_byte},
+    // Range gain and range bias, 16 bits each.
+    {80, "SSR/Mode S Range Gain and Bias", ast_dataitem_get_size_fixed_4_byte},
+    {81, "SSR/Mode S Azimuth Bias", ast_dataitem_get_size_fixed_2_byte},
+    {90, "PSR Range Gain and Bias", ast_dataitem_get_size_fixed_4_byte},
+    {91, "PSR Azimuth Bias", ast_dataitem_get_size_fixed_2_byte},
+    {92, "PSR Elevation Bias", ast_dataitem_get_size_fixed_2_byte},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems063 = make_category_items(63, ast_dataitem_063_get_name, "Unknown CAT063 Dataitem", kRows);
+
+constexpr CategoryItems kItems063Table =
+    make_category_items(63, ast_dataitem_063_get_name, "Unknown CAT063 Dataitem", kRows);
+constinit const CategoryItems kItems063 = kItems063Table;
+
 }  // namespace kovrel
 
+// Unknown identifiers are answered with the fallback name without a log line.
 extern "C" KOVREL_API const char *ast_dataitem_063_get_name(AstItemId id) {
-    return kovrel::category_item_name(kovrel::kItems063, id);
+    return kovrel::category_item_name(kovrel::kItems063, id, false);
 }

@@ -1,17 +1,46 @@
-// Placeholder: being written.
+// CAT240 dispatch rows: size rule and name of every item.
+//
+// The video blocks are plain repetitive items of 4, 64 and 256 octets a
+// repetition. The size rule of the high-volume block accepts REP 255 (an
+// item of 65281 octets) like any other count: refusing that count is the
+// block decoder's business, and it can only report it on a delimited item.
+#include "kovrel/cat240.h"
 #include "record/item_table.h"
-
-extern "C" KOVREL_API const char *ast_dataitem_240_get_name(AstItemId id);
 
 namespace kovrel {
 namespace {
+
 constexpr ItemRow kRows[] = {
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    // 1 = video summary, 2 = video message.
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
+    // Message sequence identifier, 32 bits.
+    {20, "Video Record Header", ast_dataitem_get_size_fixed_4_byte},
+    // REP characters of free text.
+    {30, "Video Summary", ast_dataitem_get_size_rep_1_byte},
+    // START_AZ, END_AZ (16 bits each), START_RG, CELL_DUR (32 bits each).
+    {40, "Video Header Nano", ast_dataitem_get_size_fixed_12_byte},
+    {41, "Video Header Femto", ast_dataitem_get_size_fixed_12_byte},
+    {48, "Video Cells Resolution & Data Compression Indicator", ast_dataitem_get_size_fixed_2_byte},
+    // NB_VB (16 bits), NB_CELLS (24 bits).
+    {49, "Video Octets & Video Cells Counters", ast_dataitem_get_size_fixed_5_byte},
+    {50, "Video Block Low Data Volume", ast_dataitem_get_size_rep_4_byte},
+    {51, "Video Block Medium Data Volume", ast_dataitem_get_size_rep_64_byte},
+    {52, "Video Block High Data Volume", ast_dataitem_get_size_rep_256_byte},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
 };
+
 }  // namespace
-constinit const CategoryItems kItems240 = make_category_items(240, ast_dataitem_240_get_name, "Unknown CAT240 Dataitem", kRows);
+
+constexpr CategoryItems kItems240Table =
+    make_category_items(240, ast_dataitem_240_get_name, "Unknown CAT240 Dataitem", kRows);
+constinit const CategoryItems kItems240 = kItems240Table;
+
 }  // namespace kovrel
 
+// Unknown identifiers are answered with the fallback name without a log line.
 extern "C" KOVREL_API const char *ast_dataitem_240_get_name(AstItemId id) {
-    return kovrel::category_item_name(kovrel::kItems240, id);
+    return kovrel::category_item_name(kovrel::kItems240, id, false);
 }

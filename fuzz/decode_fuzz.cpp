@@ -1,0 +1,99 @@
+// Decodes arbitrary octets as a data block with every profile, the smart and
+// the CAT001 mixed decoders, then runs every view of every record and item
+// found, and copies and rewrites every record.
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+#include "kovrel/kovrel.h"
+
+namespace {
+
+AstDataBlock g_block;
+AstDataBlock g_rewritten;
+char g_text[1 << 16];
+uint8_t g_buffer[1 << 17];
+
+void exercise_item(const AstDataItem &item) {
+    ast_dataitem_get_summary(g_text, sizeof g_text, &item);
+    ast_dataitem_get_detail_html(g_text, sizeof g_text, &item);
+    ast_dataitem_get_hex_str(g_text, sizeof g_text, &item);
+    ast_dataitem_get_bin_str(g_text, sizeof g_text, &item);
+    ast_dataitem_get_hex_html(g_text, sizeof g_text, &item);
+    ast_dataitem_get_bin_html(g_text, sizeof g_text, &item);
+    (void)ast_dataitem_get_name(item.id);
+    (void)ast_dataitem_get_capabilities(item.id);
+    // Small buffers must be as safe as large ones.
+    ast_dataitem_get_summary(g_text, 7, &item);
+    ast_dataitem_get_detail_html(g_text, 33, &item);
+
+    alignas(16) static uint8_t storage[1 << 14];
+    AstDataItemValue value;
+    AstDataItemFuncs f;
+    ast_dataitem_get_func(&f, item.id);
+    if (f.decode_ex) ast_dataitem_decode(&value, storage, sizeof storage, &item);
+
+    if (ast_dataitem_get_capabilities(item.id) & AST_DATAITEM_CAP_DETAIL) {
+        AstSubfieldList list;
+        ast_dataitem_subfields_decode(&list, &item);
+        for (uint64_t i = 0; i < list.span_count; ++i) {
+            ast_subfield_get_summary(g_text, sizeof g_text, &list.spans[i], list.spans[i].id);
+            ast_subfield_get_detail_html(g_text, sizeof g_text, &list.spans[i], list.spans[i].id);
+            ast_subfield_get_bin_html(g_text, sizeof g_text, &list.spans[i]);
+        }
+    }
+}
+
+void exercise_block(const AstDataBlock &block) {
+    const uint64_t records = block.record_count < AST_DATABLOCK_MAX_RECORDS ? block.record_count : 0;
+    for (uint64_t r = 0; r < records; ++r) {
+        const AstDataRecord &record = block.records[r];
+        for (uint64_t i = 0; i < record.item_count; ++i) exercise_item(record.items[i]);
+        ast_datarecord_get_detail_html(g_text, sizeof g_text, &record);
+        ast_datarecord_get_hex_html(g_text, sizeof g_text, &record);
+        AstDataRecord copy;
+        ast_datarecord_copy(&copy, g_buffer, sizeof g_buffer, &record);
+        ast_datarecord_copy(&copy, g_buffer, record.length / 2, &record);
+        AstDataRecordFuncs funcs;
+        ast_datarecord_get_func(&funcs, record.category);
+        AstDataSourceIdentifier sacsic;
+        ast_datarecord_get_sacsic(&sacsic, &record);
+        AstRecordCallsign callsign;
+        ast_datarecord_get_callsign(&callsign, &record);
+    }
+    ast_datablock_modify(&g_rewritten, g_buffer, sizeof g_buffer, &block, nullptr);
+    if (block.valid == 1 && g_rewritten.valid == 1 && g_rewritten.length != block.length) __builtin_trap();
+    ast_datablock_modify(&g_rewritten, g_buffer, block.length / 2, &block, nullptr);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
+    ast_log_handler_reg(nullptr);
+    // The first octet chooses the options, so both tolerances are explored.
+    if (size > 0) {
+        ast_library_reset_option();
+        ast_library_set_option(data[0] & 0x3u);
+        ++data;
+        --size;
+    }
+    const AstUap *profiles[] = {&AST_UAP_STANDARD,     &AST_UAP_CAT001_PLOT,  &AST_UAP_CAT021_VER023,
+                                &AST_UAP_CAT021_VER026, &AST_UAP_CAT021_VER21, &AST_UAP_CAT021_VER27,
+                                &AST_UAP_ASR10SS,      &AST_UAP_ASR10SS_MK2,  &AST_UAP_THALES,
+                                &AST_UAP_MANAGAIR};
+    for (const AstUap *uap : profiles) {
+        ast_datablock_decode_into(&g_block, data, size, uap);
+        exercise_block(g_block);
+    }
+    ast_datablock_smart_decode_into(&g_block, data, size);
+    exercise_block(g_block);
+    ast_datablock_001_mixuap_decode_into(&g_block, data, size);
+    exercise_block(g_block);
+    // The octets as one record of their first octet's category.
+    if (size > 1) {
+        AstDataRecord record;
+        ast_datarecord_decode(&record, data + 1, size - 1, data[0], &AST_UAP_STANDARD);
+        for (uint64_t i = 0; i < record.item_count; ++i) exercise_item(record.items[i]);
+    }
+    return 0;
+}

@@ -1,0 +1,11 @@
+// Record accessors of each category (filled in by the category folders).
+#pragma once
+
+#include "kovrel/datarecord.h"
+
+namespace kovrel {
+
+// The accessors of a category, or nullptr when it has none yet.
+const AstDataRecordFuncs *find_record_funcs(uint32_t category);
+
+}  // namespace kovrel

@@ -1,0 +1,156 @@
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "kovrel/cat002.h"
+#include "kovrel/core.h"
+#include "kovrel/fspec.h"
+#include "kovrel/uap.h"
+#include "support/log_capture.h"
+
+using kovrel_test::LogCapture;
+using Octets = std::vector<uint8_t>;
+
+namespace {
+
+struct Scanned {
+    AstItemId id;
+    uint64_t length;
+    bool operator==(const Scanned &o) const { return id == o.id && length == o.length; }
+};
+
+// Reads one record the way a decoder does: the FSPEC, then each announced
+// item in FRN order, each starting where the previous one ended. Stops at
+// the first item that cannot be delimited; `consumed` is the octets used
+// when every item was delimited, 0 otherwise.
+std::vector<Scanned> walk(const AstUap &uap, const Octets &record, size_t *consumed) {
+    std::vector<Scanned> items;
+    *consumed = 0;
+    AstFspec fspec;
+    ast_fspec_decode(&fspec, record.data(), record.size());
+    if (fspec.valid != 1) return items;
+    size_t pos = static_cast<size_t>(fspec.length);
+    for (uint32_t frn = 1; frn <= fspec.frn_count; ++frn) {
+        if (!ast_fspec_is_set(&fspec, frn)) continue;
+        AstDataItem item;
+        ast_dataitem_scan(&item, record.data() + pos, record.size() - pos, ast_uap_get_dataitem(&uap, 2, frn));
+        if (item.valid != 1) return items;
+        items.push_back({item.id, item.length});
+        pos += static_cast<size_t>(item.length);
+    }
+    *consumed = pos;
+    return items;
+}
+
+uint64_t size_of(AstItemId id, const Octets &o) { return ast_dataitem_get_size(o.data(), o.size(), id); }
+
+Octets fx_chain(size_t extended) {
+    Octets o(extended, 0x01);
+    o.push_back(0x00);
+    return o;
+}
+
+}  // namespace
+
+TEST(Cat002, NamesAndTheirFallback) {
+    LogCapture log;
+    EXPECT_STREQ(ast_dataitem_002_get_name(2000), "Message Type");
+    EXPECT_STREQ(ast_dataitem_002_get_name(2041), "Antenna Rotation Period");
+    EXPECT_STREQ(ast_dataitem_002_get_name(2050), "Station Configuration Status");
+    EXPECT_STREQ(ast_dataitem_002_get_name(2901), "Station Configuration Status");
+    EXPECT_STREQ(ast_dataitem_002_get_name(2902), "Station Configuration Status");
+    EXPECT_STREQ(ast_dataitem_002_get_name(2951), "Custom Field");
+    EXPECT_STREQ(ast_dataitem_get_name(2997), "Random Field Sequencing");
+    EXPECT_TRUE(log.lines().empty());
+
+    // The items of FRN 7 to 11 have neither name nor size rule.
+    for (AstItemId id : {2060u, 2070u, 2080u, 2090u, 2100u}) {
+        EXPECT_STREQ(ast_dataitem_002_get_name(id), "Unknown CAT002 Dataitem") << id;
+        EXPECT_EQ(size_of(id, {0x00, 0x00, 0x00, 0x00}), 0u) << id;
+    }
+    EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Unknown dataitem name: I002/060."));
+    EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Unknown dataitem name: I002/100."));
+    log.clear();
+    EXPECT_STREQ(ast_dataitem_002_get_name(2998), "Unknown CAT002 Dataitem");
+    EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Unknown dataitem name: I002/REF."));
+    EXPECT_STREQ(ast_dataitem_002_get_name(2903), "Unknown CAT002 Dataitem");
+    EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Unknown dataitem name: I002/903."));
+    EXPECT_EQ(log.size(), 2u);
+}
+
+TEST(Cat002, Lengths) {
+    EXPECT_EQ(size_of(2030, {0x6a, 0x2b}), 0u);
+    EXPECT_EQ(size_of(2951, {0xca, 0xfe}), 2u);
+    EXPECT_EQ(size_of(2951, {0xca}), 0u);
+    EXPECT_EQ(size_of(2997, {0x03, 0x01, 0x02}), 3u);
+    EXPECT_EQ(size_of(2999, {0x02, 0x01}), 2u);
+
+    LogCapture log;
+    // I002/050: at most eight octets.
+    EXPECT_EQ(size_of(2050, {0x80}), 1u);
+    EXPECT_EQ(size_of(2050, fx_chain(7)), 8u);
+    EXPECT_TRUE(log.lines().empty());
+    EXPECT_EQ(size_of(2050, fx_chain(8)), 8u);
+    EXPECT_TRUE(log.contains(AST_LOG_CRITICAL, "Dataitem length exceed max: 8"));
+    EXPECT_EQ(size_of(2050, Octets(8, 0x01)), 0u);
+
+    // The ASR-10SS station status items go up to sixteen.
+    log.clear();
+    EXPECT_EQ(size_of(2901, fx_chain(8)), 9u);
+    EXPECT_EQ(size_of(2902, fx_chain(15)), 16u);
+    EXPECT_TRUE(log.lines().empty());
+    EXPECT_EQ(size_of(2901, fx_chain(16)), 16u);
+    EXPECT_EQ(size_of(2902, fx_chain(16)), 16u);
+    EXPECT_TRUE(log.contains(AST_LOG_CRITICAL, "Dataitem length exceed max: 16"));
+    EXPECT_EQ(size_of(2902, Octets(16, 0x01)), 0u);
+    EXPECT_EQ(size_of(2901, Octets(5, 0x01)), 0u);
+}
+
+TEST(Cat002, RecordsScannedBackToBack) {
+    size_t consumed = 0;
+    // North marker: 010, 000, 020, 030, 041.
+    const Octets north = {0xf8, 0x08, 0x11, 0x01, 0x00, 0x6a, 0x2b, 0x40, 0x04, 0x00};
+    EXPECT_EQ(walk(AST_UAP_STANDARD, north, &consumed),
+              (std::vector<Scanned>{{2010, 2}, {2000, 1}, {2020, 1}, {2030, 3}, {2041, 2}}));
+    EXPECT_EQ(consumed, north.size());
+
+    // 010, 050 of three octets, SPF and RFS.
+    const Octets status = {0x85, 0x06, 0x08, 0x11, 0x41, 0x03, 0x80, 0x02, 0xee, 0x03, 0x02, 0x06};
+    EXPECT_EQ(walk(AST_UAP_STANDARD, status, &consumed),
+              (std::vector<Scanned>{{2010, 2}, {2050, 3}, {2999, 2}, {2997, 3}}));
+    EXPECT_EQ(consumed, status.size());
+
+    // FRN 7 (I002/060) cannot be delimited: reading stops after 010.
+    LogCapture log;
+    const Octets plot_count = {0x82, 0x08, 0x11, 0x00, 0x00};
+    EXPECT_EQ(walk(AST_UAP_STANDARD, plot_count, &consumed), (std::vector<Scanned>{{2010, 2}}));
+    EXPECT_EQ(consumed, 0u);
+}
+
+TEST(Cat002, SensorProfileRecords) {
+    size_t consumed = 0;
+    // ASR-10SS: 010, 000, 030 and the station status at FRN 6 (ten octets,
+    // longer than I002/050 could be).
+    Octets asr = {0xd4, 0x08, 0x11, 0x80, 0x6a, 0x2b, 0x40};
+    const Octets station = fx_chain(9);
+    asr.insert(asr.end(), station.begin(), station.end());
+    EXPECT_EQ(walk(AST_UAP_ASR10SS, asr, &consumed),
+              (std::vector<Scanned>{{2010, 2}, {2000, 1}, {2030, 3}, {2901, 10}}));
+    EXPECT_EQ(consumed, asr.size());
+    EXPECT_EQ(walk(AST_UAP_ASR10SS_MK2, asr, &consumed),
+              (std::vector<Scanned>{{2010, 2}, {2000, 1}, {2030, 3}, {2902, 10}}));
+    EXPECT_EQ(consumed, asr.size());
+    // The same octets read with the standard profile take I002/050, which
+    // is cut after eight octets and leaves two octets unread.
+    LogCapture log;
+    EXPECT_EQ(walk(AST_UAP_STANDARD, asr, &consumed),
+              (std::vector<Scanned>{{2010, 2}, {2000, 1}, {2030, 3}, {2050, 8}}));
+    EXPECT_EQ(consumed, 15u);
+
+    // MANAGAIR: FRN 23 carries the custom field.
+    const Octets managair = {0x81, 0x01, 0x01, 0x40, 0x08, 0x11, 0xca, 0xfe};
+    EXPECT_EQ(walk(AST_UAP_MANAGAIR, managair, &consumed), (std::vector<Scanned>{{2010, 2}, {2951, 2}}));
+    EXPECT_EQ(consumed, managair.size());
+}
