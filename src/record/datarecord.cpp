@@ -4,6 +4,7 @@
 
 #include "core/state.h"
 #include "kovrel/datarecord.h"
+#include "record/item_table.h"
 
 namespace {
 
@@ -48,18 +49,36 @@ KOVREL_API void ast_datarecord_decode(AstDataRecord *out, const uint8_t *octets,
 
     uint64_t pos = out->fspec.length;
     const uint8_t *fspec = out->fspec.octets;
-    for (uint32_t frn = 1; frn <= out->fspec.frn_count; ++frn) {
-        if ((fspec[(frn - 1) / 7] & (0x80u >> ((frn - 1) % 7))) == 0) continue;
-        const AstItemId id = ast_uap_get_dataitem(&out->uap, category, frn);
-        AstDataItem item;
-        ast_dataitem_scan(&item, octets + pos, static_cast<size_t>(available - pos), id);
-        if (item.valid != 1) return;
-        if (out->item_count >= AST_DATARECORD_MAX_ITEMS) {
-            ast_log(AST_LOG_PANIC, "Too many dataitems in record: %zu", static_cast<size_t>(AST_DATARECORD_MAX_ITEMS));
-            return;
+    for (uint64_t k = 0; k < out->fspec.length; ++k) {
+        // Visit only the FRN bits that are set, most significant first.
+        for (uint32_t bits = fspec[k] & 0xFEu; bits != 0;) {
+            const int top = 31 - __builtin_clz(bits);  // 7 for bit 8 (the first FRN of the octet)
+            bits &= ~(1u << top);
+            const uint32_t frn = static_cast<uint32_t>(7 * k) + static_cast<uint32_t>(7 - top) + 1;
+            const AstItemId id = ast_uap_get_dataitem(&out->uap, category, frn);
+            const size_t left = static_cast<size_t>(available - pos);
+            AstDataItem item{octets + pos, 0, id, 0};
+            // Known items are sized straight from their row; anything else
+            // goes through the generic scan, which reports it.
+            const kovrel::ItemRow *row = kovrel::find_item_row(id);
+            if (row && row->get_size) {
+                const uint64_t n = row->get_size(octets + pos, left);
+                if (n != 0 && n <= left) {
+                    item.length = n;
+                    item.valid = 1;
+                }
+            } else {
+                ast_dataitem_scan(&item, octets + pos, left, id);
+            }
+            if (item.valid != 1) return;
+            if (out->item_count >= AST_DATARECORD_MAX_ITEMS) {
+                ast_log(AST_LOG_PANIC, "Too many dataitems in record: %zu",
+                        static_cast<size_t>(AST_DATARECORD_MAX_ITEMS));
+                return;
+            }
+            out->items[out->item_count++] = item;
+            pos += item.length;
         }
-        out->items[out->item_count++] = item;
-        pos += item.length;
     }
     out->length = pos;
     out->valid = 1;
