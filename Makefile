@@ -2,7 +2,7 @@
 #   make demo   build everything and run the kovrel tool on its sample
 #   make test   build and run every test (plain, then ASan+UBSan, exports)
 #   make bench  build and run the benchmarks
-#   make fuzz   build the libFuzzer target with clang and run it (FUZZ_SECONDS)
+#   make fuzz   build the libFuzzer target with clang and run it for FUZZ_SECONDS (60)
 
 BUILD      ?= build
 ASAN_BUILD ?= build-asan
@@ -27,7 +27,9 @@ build: deps $(BUILD)/build.ninja
 
 demo: build
 	$(BUILD)/tools/kovrel/kovrel info
-	$(BUILD)/tools/kovrel/kovrel uap 48
+	$(BUILD)/tools/kovrel/kovrel decode --items | head -n 40
+	$(BUILD)/tools/kovrel/kovrel decode --stats -o $(BUILD)/sample-decode.txt
+	@echo "every record of the sample: $(BUILD)/sample-decode.txt"
 
 test-plain: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
@@ -38,13 +40,21 @@ test-asan: deps
 	cd $(ASAN_BUILD) && ASAN_OPTIONS=detect_leaks=0:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 	  ctest --output-on-failure -j $(JOBS)
 
-test: test-plain test-asan
+test: test-plain test-asan fuzz
 	@echo "all test stages passed"
 
 bench: deps
 	cmake -S . -B $(BENCH_BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=Release -DKOVREL_BUILD_BENCH=ON -DKOVREL_BUILD_TESTS=OFF -DKOVREL_BUILD_TOOLS=OFF
 	cmake --build $(BENCH_BUILD) -j $(JOBS)
 	$(BENCH_BUILD)/bench/kovrel_bench
+
+fuzz: deps
+	cmake -S . -B $(FUZZ_BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \
+	  -DKOVREL_BUILD_FUZZ=ON -DKOVREL_BUILD_TESTS=OFF -DKOVREL_BUILD_TOOLS=OFF
+	cmake --build $(FUZZ_BUILD) -j $(JOBS)
+	mkdir -p $(FUZZ_BUILD)/corpus
+	$(FUZZ_BUILD)/fuzz/decode_fuzz -max_total_time=$(FUZZ_SECONDS) -max_len=2048 -print_final_stats=1 \
+	  $(FUZZ_BUILD)/corpus fuzz/seeds
 
 install: build
 	cmake --install $(BUILD)

@@ -1,7 +1,7 @@
 /*
  * kovrel - Eurocontrol ASTERIX decoder and encoder.
  *
- * fspec.h: the Field Specification that opens every data record (and the
+ * fspec.h: the FSPEC that opens every data record (and the
  * primary subfield of compound items). Each octet carries seven FRN bits
  * (bit 8 of octet k is FRN 7k+1) and an FX bit (bit 1) that announces a
  * further octet.

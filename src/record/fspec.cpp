@@ -1,4 +1,4 @@
-// Field Specification: which FRNs a record (or a compound item) carries.
+// FSPEC: which FRNs a record (or a compound item) carries.
 #include "kovrel/fspec.h"
 
 #include <cstring>

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 namespace kovrel_tool {
 
@@ -12,5 +13,22 @@ int run_info(std::FILE *out);
 // `kovrel uap [--profile NAME] [CATEGORY]`: the FRN table of one category
 // (or of every supported category when category is 0) in a profile.
 int run_uap(std::FILE *out, const std::string &profile, unsigned category);
+
+// Options of `kovrel [decode] [FILE...]`.
+struct DecodeOptions {
+    std::vector<std::string> files;  // none: the built-in sample recording
+    std::string format = "text";     // text | json (html is not there yet)
+    bool items = false;              // text: one line per item too
+    std::string uap = "auto";        // auto (smart decoding) or a profile name
+    bool stats = false;              // counts and throughput on standard error
+    std::string output;              // write records here instead of stdout
+    bool log = false;                // library log lines on standard error
+};
+
+// `kovrel [decode] [FILE...]`: decodes recordings (pcap, pcapng, raw
+// blocks, hexadecimal text). Exit status 0, or 1 when nothing could be
+// read (no input readable, or no valid block in any of them), 2 for bad
+// options.
+int run_decode(const DecodeOptions &options);
 
 }  // namespace kovrel_tool

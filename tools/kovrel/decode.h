@@ -1,0 +1,68 @@
+// Decoding blocks for the tool, and working out why a block is bad.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include <kovrel/kovrel.h>
+
+namespace kovrel_tool {
+
+// The record at which a bad block stopped, as far as it could be read.
+struct FailedRecord {
+    size_t index = 0;     // 0-based position of the record in the block
+    uint64_t offset = 0;  // octet offset of the record inside the block
+    AstDataRecord record{};
+};
+
+struct BlockOutcome {
+    // The block as decoded: a valid block, or, for a bad one, the attempt
+    // that read furthest (its records are all valid and complete).
+    const AstDataBlock *block = nullptr;
+    bool valid = false;
+    // Why the block is bad, e.g. "record 3 at octet 41: after I048/130,
+    // I048/220 (FRN 8) cannot be delimited in the 2 octets left".
+    std::string reason;
+    // The record the block stopped at; nullptr when the failure is not in
+    // a record (header, LEN, too many records).
+    const FailedRecord *failed = nullptr;
+};
+
+// Decodes blocks one at a time with one profile, or with the smart decoder
+// (uap nullptr). Blocks are large (64 records of 48 items), so the decoder
+// keeps its own on the heap and reuses it; an outcome stays valid until the
+// next call.
+class BlockDecoder {
+public:
+    explicit BlockDecoder(const AstUap *uap);
+    ~BlockDecoder();
+    BlockDecoder(const BlockDecoder &) = delete;
+    BlockDecoder &operator=(const BlockDecoder &) = delete;
+
+    BlockOutcome decode(const uint8_t *data, size_t size);
+
+private:
+    // Decodes with one candidate (nullptr: the CAT001 plot/track mix).
+    void attempt(AstDataBlock *out, const uint8_t *data, size_t size, const AstUap *candidate);
+    std::string explain(const AstDataBlock &block, const uint8_t *data, size_t size, const AstUap *candidate);
+
+    const AstUap *uap_;
+    std::unique_ptr<AstDataBlock> block_;
+    std::unique_ptr<AstDataBlock> trial_;
+    std::unique_ptr<FailedRecord> failed_;
+    bool have_failed_ = false;
+};
+
+// The name of the profile that read a record of `category`: a variant
+// profile whose table for the category is the standard one is shown as
+// "standard" (the smart decoder keeps the last profile that worked, which
+// is then also used for categories the variant does not change).
+const char *profile_label(const AstUap &uap, uint32_t category);
+
+// Registers the library log handler (nullptr: off) and remembers it, so
+// that the tool can silence the library for a moment and restore it.
+void set_library_log(AstLogHandler handler);
+
+}  // namespace kovrel_tool

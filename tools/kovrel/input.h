@@ -1,0 +1,111 @@
+// Reading recordings: what kind of input a file is, and the chunks of
+// ASTERIX octets it holds.
+//
+// A chunk is a run of octets that should hold whole data blocks back to
+// back: the whole file for raw and hexadecimal inputs, one UDP payload for
+// captures. Where a chunk came from is its Location:
+//   raw and hex inputs   the octet offset in the input (for hex text, in the
+//                        octets the text stands for), printed "@1234";
+//   captures             the packet number (from 1) and the offset inside
+//                        the packet's UDP payload, printed "pkt 12+40".
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kovrel_tool {
+
+enum class InputKind { Pcap, Pcapng, Raw, Hex };
+
+const char *input_kind_name(InputKind kind);
+
+// Tells the kind of an input from its first octets (the more the better;
+// 64 KiB is plenty). Captures are told by their magic numbers (pcap in both
+// byte orders, micro- and nanosecond; pcapng); text made only of
+// hexadecimal digits, separators and '#' comment lines is hex; anything
+// else is taken as raw blocks.
+InputKind detect_input(const uint8_t *head, size_t size);
+
+struct Location {
+    uint64_t packet = 0;  // 0 for raw and hex inputs
+    uint64_t offset = 0;
+};
+
+std::string format_location(const Location &where);
+
+// Octets of one chunk. For captures, time is the packet's time stamp in
+// seconds since 1970 (0 otherwise).
+struct Chunk {
+    Location where;
+    const uint8_t *data = nullptr;
+    size_t size = 0;
+    double time = 0;
+};
+
+// Receives the chunks of an input; returns false to stop reading.
+using ChunkSink = std::function<bool(const Chunk &)>;
+
+// Progress callback: octets of the input consumed so far.
+using ProgressFn = std::function<void(uint64_t done)>;
+
+// ---- Raw blocks and text files -----------------------------------------
+
+// Reads the rest of a stream into out (raw blocks and hex text are read
+// whole). Returns false with error set on a read error.
+bool read_stream(std::FILE *file, std::vector<uint8_t> &out, std::string &error,
+                 const ProgressFn &progress = {});
+
+// ---- Hexadecimal text --------------------------------------------------
+
+// Turns hexadecimal text into octets. Accepted: pairs of hex digits, alone
+// or run together ("30000c", "30 00 0c"), each token optionally prefixed by
+// "0x" (a prefixed token may also be a single digit, "0x5"), separated by
+// blanks, tabs, line ends, commas or semicolons; lines whose first
+// non-blank character is '#' are comments. On a bad token returns false
+// and sets error to a message naming the line.
+bool parse_hex(std::string_view text, std::vector<uint8_t> &out, std::string &error);
+
+// ---- Captures ----------------------------------------------------------
+
+// What became of the packets of a capture.
+struct CaptureStats {
+    uint64_t packets = 0;     // packets read
+    uint64_t udp = 0;         // UDP payloads handed on
+    uint64_t not_udp = 0;     // other protocols (ARP, TCP, ICMP, ...)
+    uint64_t fragments = 0;   // IP fragments (not reassembled)
+    uint64_t truncated = 0;   // cut by the capture's snap length or malformed
+    int linktype = -1;
+};
+
+// Outcome of looking into one captured frame.
+enum class FrameResult { Udp, NotUdp, Fragment, Truncated };
+
+struct Payload {
+    const uint8_t *data = nullptr;
+    size_t size = 0;
+};
+
+// True for the link types whose frames udp_payload understands: Ethernet
+// (with 802.1Q / 802.1ad tags), Linux cooked capture v1 and v2, raw IP
+// (DLT_RAW, DLT_IPV4, DLT_IPV6) and BSD loopback (DLT_NULL, DLT_LOOP).
+bool linktype_supported(int linktype);
+
+// Finds the UDP payload of one captured frame of the given link type.
+FrameResult udp_payload(int linktype, const uint8_t *frame, size_t caplen, Payload &out);
+
+// Reads a pcap or pcapng capture through libpcap and hands every UDP
+// payload to sink (location: packet number, offset 0) until the sink
+// returns false. The file is taken
+// over and closed. Returns false with error set when libpcap cannot read
+// the capture at all or its link type is not supported; a capture cut
+// short after some packets is read up to the cut (error then tells it, and
+// true is returned).
+bool read_capture(std::FILE *file, const ChunkSink &sink, CaptureStats &stats, std::string &error,
+                  const ProgressFn &progress = {});
+
+}  // namespace kovrel_tool

@@ -1,0 +1,210 @@
+// Captures: UDP payloads out of pcap and pcapng files, through libpcap.
+#include <pcap/pcap.h>
+
+#include "input.h"
+
+namespace kovrel_tool {
+namespace {
+
+// Link types named by number as well, for libpcap builds that lack a macro.
+constexpr int kLinktypeRaw = 101;  // LINKTYPE_RAW as stored in files
+constexpr int kDltIpv4 = 228;
+constexpr int kDltIpv6 = 229;
+constexpr int kDltLinuxSll = 113;
+constexpr int kDltLinuxSll2 = 276;
+constexpr int kDltLoop = 108;
+
+uint16_t be16(const uint8_t *p) { return static_cast<uint16_t>(p[0] << 8 | p[1]); }
+
+FrameResult udp(const uint8_t *p, size_t n, Payload &out) {
+    if (n < 8) return FrameResult::Truncated;
+    const size_t length = be16(p + 4);
+    if (length < 8 || length > n) return FrameResult::Truncated;
+    out.data = p + 8;
+    out.size = length - 8;
+    return FrameResult::Udp;
+}
+
+FrameResult ipv4(const uint8_t *p, size_t n, Payload &out) {
+    if (n < 20) return FrameResult::Truncated;
+    const size_t header = static_cast<size_t>(p[0] & 0x0F) * 4;
+    const size_t total = be16(p + 2);
+    // Captures cut by the snap length end before the datagram does; frames
+    // padded to the Ethernet minimum end after it.
+    if (header < 20 || total < header || total > n) return FrameResult::Truncated;
+    const uint16_t fragment = be16(p + 6);
+    if ((fragment & 0x2000) != 0 || (fragment & 0x1FFF) != 0) return FrameResult::Fragment;
+    if (p[9] != 17) return FrameResult::NotUdp;
+    return udp(p + header, total - header, out);
+}
+
+FrameResult ipv6(const uint8_t *p, size_t n, Payload &out) {
+    if (n < 40) return FrameResult::Truncated;
+    const size_t payload = be16(p + 4);
+    size_t end = 40 + payload;
+    if (payload == 0) end = n;  // jumbogram: the length is in an option
+    if (end > n) return FrameResult::Truncated;
+    uint8_t next = p[6];
+    size_t off = 40;
+    // Walk the extension headers up to the transport header.
+    for (int hops = 0; hops < 32; ++hops) {
+        switch (next) {
+        case 17:
+            return udp(p + off, end - off, out);
+        case 0:    // hop-by-hop options
+        case 43:   // routing
+        case 60:   // destination options
+        case 135:  // mobility
+            if (off + 8 > end) return FrameResult::Truncated;
+            next = p[off];
+            off += (static_cast<size_t>(p[off + 1]) + 1) * 8;
+            break;
+        case 51:  // authentication header
+            if (off + 8 > end) return FrameResult::Truncated;
+            next = p[off];
+            off += (static_cast<size_t>(p[off + 1]) + 2) * 4;
+            break;
+        case 44: {  // fragment: only an atomic fragment (offset 0, no more) is whole
+            if (off + 8 > end) return FrameResult::Truncated;
+            const uint16_t fo = be16(p + off + 2);
+            if ((fo & 0xFFF8) != 0 || (fo & 0x0001) != 0) return FrameResult::Fragment;
+            next = p[off];
+            off += 8;
+            break;
+        }
+        default:
+            return FrameResult::NotUdp;
+        }
+        if (off > end) return FrameResult::Truncated;
+    }
+    return FrameResult::NotUdp;
+}
+
+FrameResult ip(const uint8_t *p, size_t n, Payload &out) {
+    if (n < 1) return FrameResult::Truncated;
+    switch (p[0] >> 4) {
+    case 4:
+        return ipv4(p, n, out);
+    case 6:
+        return ipv6(p, n, out);
+    default:
+        return FrameResult::NotUdp;
+    }
+}
+
+// The network layer behind an EtherType, skipping VLAN tags.
+FrameResult by_ethertype(uint16_t type, const uint8_t *p, size_t off, size_t n, Payload &out) {
+    while (type == 0x8100 || type == 0x88A8 || type == 0x9100) {
+        if (off + 4 > n) return FrameResult::Truncated;
+        type = be16(p + off + 2);
+        off += 4;
+    }
+    if (type == 0x0800 || type == 0x86DD) return ip(p + off, n - off, out);
+    return FrameResult::NotUdp;
+}
+
+}  // namespace
+
+bool linktype_supported(int linktype) {
+    switch (linktype) {
+    case DLT_EN10MB:
+    case kDltLinuxSll:
+    case kDltLinuxSll2:
+    case DLT_RAW:
+    case kLinktypeRaw:
+    case kDltIpv4:
+    case kDltIpv6:
+    case DLT_NULL:
+    case kDltLoop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+FrameResult udp_payload(int linktype, const uint8_t *frame, size_t caplen, Payload &out) {
+    out = Payload{};
+    switch (linktype) {
+    case DLT_EN10MB:
+        if (caplen < 14) return FrameResult::Truncated;
+        return by_ethertype(be16(frame + 12), frame, 14, caplen, out);
+    case kDltLinuxSll:
+        if (caplen < 16) return FrameResult::Truncated;
+        return by_ethertype(be16(frame + 14), frame, 16, caplen, out);
+    case kDltLinuxSll2:
+        if (caplen < 20) return FrameResult::Truncated;
+        return by_ethertype(be16(frame), frame, 20, caplen, out);
+    case DLT_NULL:
+    case kDltLoop:
+        // A 4-octet address family (host or network order, and its values
+        // differ between systems): the IP version nibble tells enough.
+        if (caplen < 4) return FrameResult::Truncated;
+        return ip(frame + 4, caplen - 4, out);
+    case kDltIpv4:
+    case kDltIpv6:
+    case DLT_RAW:
+    case kLinktypeRaw:
+        return ip(frame, caplen, out);
+    default:
+        return FrameResult::NotUdp;
+    }
+}
+
+bool read_capture(std::FILE *file, const ChunkSink &sink, CaptureStats &stats, std::string &error,
+                  const ProgressFn &progress) {
+    char errbuf[PCAP_ERRBUF_SIZE] = {0};
+    pcap_t *pcap = pcap_fopen_offline_with_tstamp_precision(file, PCAP_TSTAMP_PRECISION_NANO, errbuf);
+    if (!pcap) {
+        std::fclose(file);  // libpcap keeps the stream only on success
+        error = errbuf;
+        return false;
+    }
+    stats.linktype = pcap_datalink(pcap);
+    if (!linktype_supported(stats.linktype)) {
+        const char *name = pcap_datalink_val_to_name(stats.linktype);
+        error = "link type " + std::string(name ? name : "unknown") + " (" + std::to_string(stats.linktype) +
+                ") is not supported";
+        pcap_close(pcap);
+        return false;
+    }
+    pcap_pkthdr *header = nullptr;
+    const u_char *data = nullptr;
+    int rc;
+    while ((rc = pcap_next_ex(pcap, &header, &data)) == 1) {
+        ++stats.packets;
+        Payload payload;
+        switch (udp_payload(stats.linktype, data, header->caplen, payload)) {
+        case FrameResult::Udp: {
+            ++stats.udp;
+            Chunk chunk;
+            chunk.where = Location{stats.packets, 0};
+            chunk.data = payload.data;
+            chunk.size = payload.size;
+            chunk.time = static_cast<double>(header->ts.tv_sec) + static_cast<double>(header->ts.tv_usec) * 1e-9;
+            if (!sink(chunk)) {
+                pcap_close(pcap);
+                return true;
+            }
+            break;
+        }
+        case FrameResult::NotUdp:
+            ++stats.not_udp;
+            break;
+        case FrameResult::Fragment:
+            ++stats.fragments;
+            break;
+        case FrameResult::Truncated:
+            ++stats.truncated;
+            break;
+        }
+        if (progress && (stats.packets & 0xFF) == 0) {
+            const long pos = std::ftell(pcap_file(pcap));
+            if (pos >= 0) progress(static_cast<uint64_t>(pos));
+        }
+    }
+    if (rc == PCAP_ERROR) error = pcap_geterr(pcap);
+    pcap_close(pcap);
+    return true;
+}
+
+}  // namespace kovrel_tool
