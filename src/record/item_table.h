@@ -43,11 +43,12 @@ struct CompoundItem {
     const SubfieldRow *rows;  // rows[i] describes subfield i + 1
     size_t row_count;
     AstSubfieldFuncs funcs;   // the item's exported subfield functions
+    const char *unknown_id;   // id text of a subfield the item does not have
 };
 
 template <size_t N>
 constexpr CompoundItem make_compound(uint32_t subfield_count, const SubfieldRow (&rows)[N],
-                                     AstSubfieldFuncs funcs) {
+                                     AstSubfieldFuncs funcs, const char *unknown_id = "---") {
     bool summary = false, detail = false;
     for (const SubfieldRow &r : rows) {
         summary = summary || r.get_summary != nullptr;
@@ -56,12 +57,13 @@ constexpr CompoundItem make_compound(uint32_t subfield_count, const SubfieldRow 
     // Capabilities tell callers whether subfields have summaries and views.
     if (!summary) funcs.get_summary = nullptr;
     if (!detail) funcs.get_detail_html = nullptr;
-    return CompoundItem{subfield_count, rows, N, funcs};
+    return CompoundItem{subfield_count, rows, N, funcs, unknown_id};
 }
 
 // Row-driven behaviour behind every compound item's exported subfield
 // functions (see KOVREL_COMPOUND_ITEM). A subfield id of another item or
-// beyond the rows has size 0, id "---" and name "UNKNOWN_SUBFIELD_NAME".
+// beyond the rows has size 0, the item's unknown id text ("---" unless the
+// category has its own) and the name "UNKNOWN_SUBFIELD_NAME".
 uint64_t subfield_row_size(const CompoundItem &c, AstItemId item, const uint8_t *octets, size_t available,
                            uint32_t subfield_id);
 const char *subfield_row_id(const CompoundItem &c, AstItemId item, uint32_t subfield_id);

@@ -33,7 +33,8 @@ uint64_t subfield_row_size(const CompoundItem &c, AstItemId item, const uint8_t 
 
 const char *subfield_row_id(const CompoundItem &c, AstItemId item, uint32_t subfield_id) {
     const SubfieldRow *r = row_of(c, item, subfield_id);
-    return (r && r->id) ? r->id : "---";
+    if (!r) return c.unknown_id ? c.unknown_id : "---";
+    return r->id ? r->id : "---";
 }
 
 const char *subfield_row_name(const CompoundItem &c, AstItemId item, uint32_t subfield_id) {

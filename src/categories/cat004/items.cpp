@@ -56,16 +56,9 @@ constexpr SubfieldRow k171Subfields[] = {
 
 }  // namespace
 
-// CAT004 answers a subfield identifier outside an item's subfields with the
-// id text "--" (two dashes, unlike the "---" of other categories); existing
-// consumers of the safety-net views match on it, so it is kept.
-namespace {
-const char *subfield_004_id(const CompoundItem &c, AstItemId item, uint32_t subfield_id) {
-    const uint32_t number = subfield_id % 1000;
-    if (subfield_id / 1000 != item || number == 0 || number > c.row_count) return "--";
-    return subfield_row_id(c, item, subfield_id);
-}
-}  // namespace
+// Safety-net views show an unknown subfield with two dashes, not three;
+// existing consumers match on it, so it is kept.
+constexpr const char *kUnknownId = "--";
 
 extern const CompoundItem kCompound004_100;
 extern const CompoundItem kCompound004_120;
@@ -74,42 +67,17 @@ extern const CompoundItem kCompound004_171;
 
 }  // namespace kovrel
 
-// As KOVREL_COMPOUND_ITEM, with the CAT004 id text for unknown subfields.
-#define KOVREL_COMPOUND_ITEM_004(P, ID, COMPOUND)                                                          \
-    extern "C" {                                                                                           \
-    KOVREL_API uint64_t ast_dataitem_##P##_get_size(const uint8_t *octets, size_t available) {              \
-        return ast_dataitem_subfields_get_size(octets, available, ID);                                     \
-    }                                                                                                      \
-    KOVREL_API uint64_t ast_subfield_##P##_get_size(const uint8_t *octets, size_t available, uint32_t sid) { \
-        return ::kovrel::subfield_row_size(COMPOUND, ID, octets, available, sid);                          \
-    }                                                                                                      \
-    KOVREL_API const char *ast_subfield_##P##_get_id(uint32_t sid) {                                       \
-        return ::kovrel::subfield_004_id(COMPOUND, ID, sid);                                               \
-    }                                                                                                      \
-    KOVREL_API const char *ast_subfield_##P##_get_name(uint32_t sid) {                                     \
-        return ::kovrel::subfield_row_name(COMPOUND, ID, sid);                                             \
-    }                                                                                                      \
-    KOVREL_API void ast_subfield_##P##_get_summary(char *buffer, size_t size, const AstSubfield *span,     \
-                                                   uint32_t sid) {                                         \
-        ::kovrel::subfield_row_summary(COMPOUND, ID, buffer, size, span, sid);                             \
-    }                                                                                                      \
-    KOVREL_API void ast_subfield_##P##_get_detail_html(char *buffer, size_t size, const AstSubfield *span, \
-                                                       uint32_t sid) {                                     \
-        ::kovrel::subfield_row_detail(COMPOUND, ID, buffer, size, span, sid);                              \
-    }                                                                                                      \
-    }
-
-KOVREL_COMPOUND_ITEM_004(004_100, 4100, ::kovrel::kCompound004_100)
-KOVREL_COMPOUND_ITEM_004(004_120, 4120, ::kovrel::kCompound004_120)
-KOVREL_COMPOUND_ITEM_004(004_170, 4170, ::kovrel::kCompound004_170)
-KOVREL_COMPOUND_ITEM_004(004_171, 4171, ::kovrel::kCompound004_171)
+KOVREL_COMPOUND_ITEM(004_100, 4100, ::kovrel::kCompound004_100)
+KOVREL_COMPOUND_ITEM(004_120, 4120, ::kovrel::kCompound004_120)
+KOVREL_COMPOUND_ITEM(004_170, 4170, ::kovrel::kCompound004_170)
+KOVREL_COMPOUND_ITEM(004_171, 4171, ::kovrel::kCompound004_171)
 
 namespace kovrel {
 
-constinit const CompoundItem kCompound004_100 = make_compound(6, k100Subfields, KOVREL_SUBFIELD_FUNCS(004_100));
-constinit const CompoundItem kCompound004_120 = make_compound(4, k120Subfields, KOVREL_SUBFIELD_FUNCS(004_120));
-constinit const CompoundItem kCompound004_170 = make_compound(10, k170Subfields, KOVREL_SUBFIELD_FUNCS(004_170));
-constinit const CompoundItem kCompound004_171 = make_compound(10, k171Subfields, KOVREL_SUBFIELD_FUNCS(004_171));
+constinit const CompoundItem kCompound004_100 = make_compound(6, k100Subfields, KOVREL_SUBFIELD_FUNCS(004_100), kUnknownId);
+constinit const CompoundItem kCompound004_120 = make_compound(4, k120Subfields, KOVREL_SUBFIELD_FUNCS(004_120), kUnknownId);
+constinit const CompoundItem kCompound004_170 = make_compound(10, k170Subfields, KOVREL_SUBFIELD_FUNCS(004_170), kUnknownId);
+constinit const CompoundItem kCompound004_171 = make_compound(10, k171Subfields, KOVREL_SUBFIELD_FUNCS(004_171), kUnknownId);
 
 namespace {
 
