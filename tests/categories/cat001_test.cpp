@@ -9,51 +9,15 @@
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
-using Octets = std::vector<uint8_t>;
+using kovrel_test::Octets;
 
-namespace {
-
-struct Scanned {
-    AstItemId id;
-    uint64_t length;
-    bool operator==(const Scanned &o) const { return id == o.id && length == o.length; }
-};
-
-// Reads one record the way a decoder does: the FSPEC, then each announced
-// item in FRN order, each starting where the previous one ended. Stops at
-// the first item that cannot be delimited; `consumed` is the octets used
-// when every item was delimited, 0 otherwise.
-std::vector<Scanned> walk(const AstUap &uap, const Octets &record, size_t *consumed) {
-    std::vector<Scanned> items;
-    *consumed = 0;
-    AstFspec fspec;
-    ast_fspec_decode(&fspec, record.data(), record.size());
-    if (fspec.valid != 1) return items;
-    size_t pos = static_cast<size_t>(fspec.length);
-    for (uint32_t frn = 1; frn <= fspec.frn_count; ++frn) {
-        if (!ast_fspec_is_set(&fspec, frn)) continue;
-        AstDataItem item;
-        ast_dataitem_scan(&item, record.data() + pos, record.size() - pos, ast_uap_get_dataitem(&uap, 1, frn));
-        if (item.valid != 1) return items;
-        items.push_back({item.id, item.length});
-        pos += static_cast<size_t>(item.length);
-    }
-    *consumed = pos;
-    return items;
-}
-
-uint64_t size_of(AstItemId id, const Octets &o) { return ast_dataitem_get_size(o.data(), o.size(), id); }
-
-// n octets with the FX bit set followed by one that ends the chain.
-Octets fx_chain(size_t extended) {
-    Octets o(extended, 0x01);
-    o.push_back(0x00);
-    return o;
-}
-
-}  // namespace
+using kovrel_test::fx_chain;
+using kovrel_test::Scanned;
+using kovrel_test::size_of;
+using kovrel_test::walk;
 
 TEST(Cat001, Names) {
     LogCapture log;
@@ -174,7 +138,7 @@ TEST(Cat001, TrackAndPlotRecords) {
                           0x41, 0x20,              // 130, two octets
                           0x80,                    // 170
                           0x11, 0x20};             // 210, two octets
-    EXPECT_EQ(walk(AST_UAP_STANDARD, track, &consumed),
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 1, track, &consumed),
               (std::vector<Scanned>{{1010, 2},
                                     {1020, 2},
                                     {1161, 2},
@@ -196,7 +160,7 @@ TEST(Cat001, TrackAndPlotRecords) {
                          0xff,                    // 120
                          0xf6,                    // 131
                          0xa4};                   // 150
-    EXPECT_EQ(walk(AST_UAP_CAT001_PLOT, plot, &consumed),
+    EXPECT_EQ(walk(AST_UAP_CAT001_PLOT, 1, plot, &consumed),
               (std::vector<Scanned>{{1010, 2},
                                     {1020, 1},
                                     {1040, 4},
@@ -214,7 +178,7 @@ TEST(Cat001, SensorProfileRecords) {
                         0x08, 0x11, 0x20, 0x12, 0x34, 0x40, 0x00, 0x02, 0x80,
                         0x81, 0x40,              // 1901
                         0x1e};                   // 1902
-    EXPECT_EQ(walk(AST_UAP_ASR10SS, asr, &consumed),
+    EXPECT_EQ(walk(AST_UAP_ASR10SS, 1, asr, &consumed),
               (std::vector<Scanned>{{1010, 2}, {1020, 1}, {1040, 4}, {1141, 2}, {1901, 2}, {1902, 1}}));
     EXPECT_EQ(consumed, asr.size());
 
@@ -222,13 +186,13 @@ TEST(Cat001, SensorProfileRecords) {
                   0x03, 0x05, 0x40};  // 1903, three octets
     const Octets track_field = fx_chain(10);  // 1904, eleven octets
     mk2.insert(mk2.end(), track_field.begin(), track_field.end());
-    EXPECT_EQ(walk(AST_UAP_ASR10SS_MK2, mk2, &consumed),
+    EXPECT_EQ(walk(AST_UAP_ASR10SS_MK2, 1, mk2, &consumed),
               (std::vector<Scanned>{{1010, 2}, {1020, 1}, {1040, 4}, {1141, 2}, {1903, 3}, {1904, 11}}));
     EXPECT_EQ(consumed, mk2.size());
 
     // MANAGAIR puts its two-octet custom field at FRN 5.
     const Octets managair = {0x8c, 0x08, 0x11, 0xca, 0xfe, 0x00, 0x80, 0x20, 0x00};
-    EXPECT_EQ(walk(AST_UAP_MANAGAIR, managair, &consumed),
+    EXPECT_EQ(walk(AST_UAP_MANAGAIR, 1, managair, &consumed),
               (std::vector<Scanned>{{1010, 2}, {1951, 2}, {1200, 4}}));
     EXPECT_EQ(consumed, managair.size());
 }

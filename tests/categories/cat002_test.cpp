@@ -9,50 +9,15 @@
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
-using Octets = std::vector<uint8_t>;
+using kovrel_test::Octets;
 
-namespace {
-
-struct Scanned {
-    AstItemId id;
-    uint64_t length;
-    bool operator==(const Scanned &o) const { return id == o.id && length == o.length; }
-};
-
-// Reads one record the way a decoder does: the FSPEC, then each announced
-// item in FRN order, each starting where the previous one ended. Stops at
-// the first item that cannot be delimited; `consumed` is the octets used
-// when every item was delimited, 0 otherwise.
-std::vector<Scanned> walk(const AstUap &uap, const Octets &record, size_t *consumed) {
-    std::vector<Scanned> items;
-    *consumed = 0;
-    AstFspec fspec;
-    ast_fspec_decode(&fspec, record.data(), record.size());
-    if (fspec.valid != 1) return items;
-    size_t pos = static_cast<size_t>(fspec.length);
-    for (uint32_t frn = 1; frn <= fspec.frn_count; ++frn) {
-        if (!ast_fspec_is_set(&fspec, frn)) continue;
-        AstDataItem item;
-        ast_dataitem_scan(&item, record.data() + pos, record.size() - pos, ast_uap_get_dataitem(&uap, 2, frn));
-        if (item.valid != 1) return items;
-        items.push_back({item.id, item.length});
-        pos += static_cast<size_t>(item.length);
-    }
-    *consumed = pos;
-    return items;
-}
-
-uint64_t size_of(AstItemId id, const Octets &o) { return ast_dataitem_get_size(o.data(), o.size(), id); }
-
-Octets fx_chain(size_t extended) {
-    Octets o(extended, 0x01);
-    o.push_back(0x00);
-    return o;
-}
-
-}  // namespace
+using kovrel_test::fx_chain;
+using kovrel_test::Scanned;
+using kovrel_test::size_of;
+using kovrel_test::walk;
 
 TEST(Cat002, NamesAndTheirFallback) {
     LogCapture log;
@@ -112,20 +77,20 @@ TEST(Cat002, RecordsScannedBackToBack) {
     size_t consumed = 0;
     // North marker: 010, 000, 020, 030, 041.
     const Octets north = {0xf8, 0x08, 0x11, 0x01, 0x00, 0x6a, 0x2b, 0x40, 0x04, 0x00};
-    EXPECT_EQ(walk(AST_UAP_STANDARD, north, &consumed),
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 2, north, &consumed),
               (std::vector<Scanned>{{2010, 2}, {2000, 1}, {2020, 1}, {2030, 3}, {2041, 2}}));
     EXPECT_EQ(consumed, north.size());
 
     // 010, 050 of three octets, SPF and RFS.
     const Octets status = {0x85, 0x06, 0x08, 0x11, 0x41, 0x03, 0x80, 0x02, 0xee, 0x03, 0x02, 0x06};
-    EXPECT_EQ(walk(AST_UAP_STANDARD, status, &consumed),
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 2, status, &consumed),
               (std::vector<Scanned>{{2010, 2}, {2050, 3}, {2999, 2}, {2997, 3}}));
     EXPECT_EQ(consumed, status.size());
 
     // FRN 7 (I002/060) cannot be delimited: reading stops after 010.
     LogCapture log;
     const Octets plot_count = {0x82, 0x08, 0x11, 0x00, 0x00};
-    EXPECT_EQ(walk(AST_UAP_STANDARD, plot_count, &consumed), (std::vector<Scanned>{{2010, 2}}));
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 2, plot_count, &consumed), (std::vector<Scanned>{{2010, 2}}));
     EXPECT_EQ(consumed, 0u);
 }
 
@@ -136,21 +101,21 @@ TEST(Cat002, SensorProfileRecords) {
     Octets asr = {0xd4, 0x08, 0x11, 0x80, 0x6a, 0x2b, 0x40};
     const Octets station = fx_chain(9);
     asr.insert(asr.end(), station.begin(), station.end());
-    EXPECT_EQ(walk(AST_UAP_ASR10SS, asr, &consumed),
+    EXPECT_EQ(walk(AST_UAP_ASR10SS, 2, asr, &consumed),
               (std::vector<Scanned>{{2010, 2}, {2000, 1}, {2030, 3}, {2901, 10}}));
     EXPECT_EQ(consumed, asr.size());
-    EXPECT_EQ(walk(AST_UAP_ASR10SS_MK2, asr, &consumed),
+    EXPECT_EQ(walk(AST_UAP_ASR10SS_MK2, 2, asr, &consumed),
               (std::vector<Scanned>{{2010, 2}, {2000, 1}, {2030, 3}, {2902, 10}}));
     EXPECT_EQ(consumed, asr.size());
     // The same octets read with the standard profile take I002/050, which
     // is cut after eight octets and leaves two octets unread.
     LogCapture log;
-    EXPECT_EQ(walk(AST_UAP_STANDARD, asr, &consumed),
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 2, asr, &consumed),
               (std::vector<Scanned>{{2010, 2}, {2000, 1}, {2030, 3}, {2050, 8}}));
     EXPECT_EQ(consumed, 15u);
 
     // MANAGAIR: FRN 23 carries the custom field.
     const Octets managair = {0x81, 0x01, 0x01, 0x40, 0x08, 0x11, 0xca, 0xfe};
-    EXPECT_EQ(walk(AST_UAP_MANAGAIR, managair, &consumed), (std::vector<Scanned>{{2010, 2}, {2951, 2}}));
+    EXPECT_EQ(walk(AST_UAP_MANAGAIR, 2, managair, &consumed), (std::vector<Scanned>{{2010, 2}, {2951, 2}}));
     EXPECT_EQ(consumed, managair.size());
 }

@@ -9,44 +9,15 @@
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
-using Octets = std::vector<uint8_t>;
+using kovrel_test::Octets;
 
-namespace {
-
-struct Scanned {
-    AstItemId id;
-    uint64_t length;
-    bool operator==(const Scanned &o) const { return id == o.id && length == o.length; }
-};
-
-// Reads one record the way a decoder does: the FSPEC, then each announced
-// item in FRN order, each starting where the previous one ended. Stops at
-// the first item that cannot be delimited; `consumed` is the octets used
-// when every item was delimited, 0 otherwise.
-std::vector<Scanned> walk(const AstUap &uap, uint32_t category, const Octets &record, size_t *consumed) {
-    std::vector<Scanned> items;
-    *consumed = 0;
-    AstFspec fspec;
-    ast_fspec_decode(&fspec, record.data(), record.size());
-    if (fspec.valid != 1) return items;
-    size_t pos = static_cast<size_t>(fspec.length);
-    for (uint32_t frn = 1; frn <= fspec.frn_count; ++frn) {
-        if (!ast_fspec_is_set(&fspec, frn)) continue;
-        AstDataItem item;
-        ast_dataitem_scan(&item, record.data() + pos, record.size() - pos, ast_uap_get_dataitem(&uap, category, frn));
-        if (item.valid != 1) return items;
-        items.push_back({item.id, item.length});
-        pos += static_cast<size_t>(item.length);
-    }
-    *consumed = pos;
-    return items;
-}
-
-uint64_t size_of(AstItemId id, const Octets &o) { return ast_dataitem_get_size(o.data(), o.size(), id); }
-
-}  // namespace
+using kovrel_test::fx_chain;
+using kovrel_test::Scanned;
+using kovrel_test::size_of;
+using kovrel_test::walk;
 
 TEST(Cat034, NamesAndTheirFallback) {
     LogCapture log;
