@@ -85,6 +85,20 @@ KOVREL_API void ast_subfield_004_171_get_summary(char *buffer, size_t size, cons
 KOVREL_API void ast_subfield_004_171_get_detail_html(char *buffer, size_t size, const AstSubfield *span,
                                                      uint32_t subfield_id);
 
+/*
+ * I004/070 Conflict Timing and Separation (compound: TC, TCA, CHS, MHS, CVS,
+ * MVS). Sized so that records carrying it decode; like I004/015, 045, 074,
+ * 075, 076 and 110 it has no name of its own ("Unknown CAT004 Dataitem").
+ */
+KOVREL_API uint64_t ast_dataitem_004_070_get_size(const uint8_t *octets, size_t available);
+KOVREL_API uint64_t ast_subfield_004_070_get_size(const uint8_t *octets, size_t available, uint32_t subfield_id);
+KOVREL_API const char *ast_subfield_004_070_get_id(uint32_t subfield_id);
+KOVREL_API const char *ast_subfield_004_070_get_name(uint32_t subfield_id);
+KOVREL_API void ast_subfield_004_070_get_summary(char *buffer, size_t size, const AstSubfield *span,
+                                                 uint32_t subfield_id);
+KOVREL_API void ast_subfield_004_070_get_detail_html(char *buffer, size_t size, const AstSubfield *span,
+                                                     uint32_t subfield_id);
+
 KOVREL_END_DECLS
 
 #endif /* KOVREL_CAT004_H */

@@ -6,6 +6,7 @@
 
 #include "kovrel/cat004.h"
 #include "kovrel/core.h"
+#include "kovrel/datarecord.h"
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
@@ -42,15 +43,12 @@ TEST(Cat004, NamesAndTheLoggedFallback) {
     EXPECT_STREQ(ast_dataitem_get_name(4998), "Reserved Expansion Field");
     EXPECT_EQ(log.size(), 0u);
 
-    // I004/070 is in the UAP but unknown to the library: named by the
-    // fallback with a warning, and not sizeable.
+    // I004/070 is in the UAP without a name of its own: named by the
+    // fallback with a warning.
     EXPECT_STREQ(ast_dataitem_004_get_name(4070), "Unknown CAT004 Dataitem");
     EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Unknown dataitem name: I004/070."));
     EXPECT_STREQ(ast_dataitem_004_get_name(48010), "Unknown CAT004 Dataitem");
     EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Unknown dataitem name: I048/010."));
-    const Octets two = {0x01, 0x02};
-    EXPECT_EQ(size_of(4070, two), 0u);
-    EXPECT_EQ(size_of(4015, two), 0u);
 }
 
 TEST(Cat004, FixedAndVariableItems) {
@@ -202,4 +200,21 @@ TEST(Cat004, WholeRecordScansBackToBack) {
     EXPECT_EQ(scanned, expected);
     EXPECT_EQ(pos, record.size());
     EXPECT_EQ(log.size(), 0u);
+}
+
+TEST(Cat004, UnnamedUapItemsAreSized) {
+    LogCapture log;
+    // An STCA record with I004/010, I004/000, I004/070 (TC and MHS present).
+    const Octets record = {0xC1, 0x10, 0x19, 0x0D, 0x07, 0x90, 0x00, 0x01, 0x00, 0x00, 0x20};
+    AstDataRecord r;
+    ast_datarecord_decode(&r, record.data(), record.size(), 4, &AST_UAP_STANDARD);
+    ASSERT_EQ(r.valid, 1);
+    ASSERT_EQ(r.item_count, 3u);
+    EXPECT_EQ(r.items[2].id, 4070u);
+    EXPECT_EQ(r.items[2].length, 6u);
+    EXPECT_EQ(size_of(4015, {0x02, 1, 2, 3, 4}), 5u);
+    EXPECT_EQ(size_of(4075, {1, 2}), 0u);
+    EXPECT_EQ(log.size(), 0u);
+    EXPECT_STREQ(ast_dataitem_get_name(4070), "Unknown CAT004 Dataitem");
+    EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Unknown dataitem name: I004/070."));
 }

@@ -16,6 +16,16 @@ constexpr SubfieldRow k100Subfields[] = {
     {"G", "Gate Designator", SubfieldRule::Fixed, 7, nullptr, nullptr, nullptr},
 };
 
+// I004/070 Conflict Timing and Separation (edition 1.13 layout).
+constexpr SubfieldRow k070Subfields[] = {
+    {"TC", "Time to Conflict", SubfieldRule::Fixed, 3, nullptr, nullptr, nullptr},
+    {"TCA", "Time to Closest Approach", SubfieldRule::Fixed, 3, nullptr, nullptr, nullptr},
+    {"CHS", "Current Horizontal Separation", SubfieldRule::Fixed, 3, nullptr, nullptr, nullptr},
+    {"MHS", "Estimated Minimum Horizontal Separation", SubfieldRule::Fixed, 2, nullptr, nullptr, nullptr},
+    {"CVS", "Current Vertical Separation", SubfieldRule::Fixed, 2, nullptr, nullptr, nullptr},
+    {"MVS", "Estimated Minimum Vertical Separation", SubfieldRule::Fixed, 2, nullptr, nullptr, nullptr},
+};
+
 constexpr SubfieldRow k120Subfields[] = {
     // The conflict nature flags extend by FX; three octets is the longest chain read.
     {"CN", "Conflict Nature", SubfieldRule::Variable, 3, nullptr, nullptr, nullptr},
@@ -60,6 +70,7 @@ constexpr SubfieldRow k171Subfields[] = {
 // existing consumers match on it, so it is kept.
 constexpr const char *kUnknownId = "--";
 
+extern const CompoundItem kCompound004_070;
 extern const CompoundItem kCompound004_100;
 extern const CompoundItem kCompound004_120;
 extern const CompoundItem kCompound004_170;
@@ -67,6 +78,7 @@ extern const CompoundItem kCompound004_171;
 
 }  // namespace kovrel
 
+KOVREL_COMPOUND_ITEM(004_070, 4070, ::kovrel::kCompound004_070)
 KOVREL_COMPOUND_ITEM(004_100, 4100, ::kovrel::kCompound004_100)
 KOVREL_COMPOUND_ITEM(004_120, 4120, ::kovrel::kCompound004_120)
 KOVREL_COMPOUND_ITEM(004_170, 4170, ::kovrel::kCompound004_170)
@@ -74,6 +86,7 @@ KOVREL_COMPOUND_ITEM(004_171, 4171, ::kovrel::kCompound004_171)
 
 namespace kovrel {
 
+constinit const CompoundItem kCompound004_070 = make_compound(6, k070Subfields, KOVREL_SUBFIELD_FUNCS(004_070), kUnknownId);
 constinit const CompoundItem kCompound004_100 = make_compound(6, k100Subfields, KOVREL_SUBFIELD_FUNCS(004_100), kUnknownId);
 constinit const CompoundItem kCompound004_120 = make_compound(4, k120Subfields, KOVREL_SUBFIELD_FUNCS(004_120), kUnknownId);
 constinit const CompoundItem kCompound004_170 = make_compound(10, k170Subfields, KOVREL_SUBFIELD_FUNCS(004_170), kUnknownId);
@@ -106,6 +119,17 @@ constexpr ItemRow kRows[] = {
      kCompoundDetail, nullptr, nullptr, &kCompound004_171},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    // Items of the UAP that the safety-net views do not show: they are sized
+    // (edition 1.13 layouts) so that records carrying them decode, but have no
+    // name of their own and answer "Unknown CAT004 Dataitem".
+    {15, nullptr, ast_dataitem_get_size_rep_2_byte},  // SDPS identifiers
+    {45, nullptr, ast_dataitem_get_size_fixed_1_byte},  // area and alert status
+    {70, nullptr, ast_dataitem_004_070_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
+     &kCompound004_070},  // conflict timing and separation
+    {74, nullptr, ast_dataitem_get_size_fixed_2_byte},   // longitudinal deviation
+    {75, nullptr, ast_dataitem_get_size_fixed_3_byte},   // transversal distance deviation
+    {76, nullptr, ast_dataitem_get_size_fixed_2_byte},   // vertical deviation
+    {110, nullptr, ast_dataitem_get_size_rep_2_byte},  // FDPS sector control positions
 };
 
 }  // namespace
