@@ -10,9 +10,12 @@
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
-using Octets = std::vector<uint8_t>;
+using kovrel_test::Octets;
+using kovrel_test::Scanned;
+using kovrel_test::walk;
 
 namespace {
 
@@ -179,26 +182,13 @@ TEST(Cat004, WholeRecordScansBackToBack) {
         0x03, 0xAA, 0xBB,                                // I004/REF
         0x02, 0xCC,                                      // I004/SPF
     };
-    const std::vector<std::pair<AstItemId, uint64_t>> expected = {
+    const std::vector<Scanned> expected = {
         {4010, 2}, {4000, 1}, {4020, 3}, {4040, 2}, {4060, 2}, {4030, 2}, {4170, 8},
         {4120, 8}, {4100, 7}, {4035, 2}, {4171, 8}, {4998, 3}, {4999, 2}};
 
-    AstFspec fspec;
-    ast_fspec_decode(&fspec, record.data(), record.size());
-    ASSERT_EQ(fspec.valid, 1);
-    size_t pos = static_cast<size_t>(fspec.length);
-    std::vector<std::pair<AstItemId, uint64_t>> scanned;
-    for (uint32_t frn = 1; frn <= fspec.frn_count; ++frn) {
-        if (!ast_fspec_is_set(&fspec, frn)) continue;
-        AstDataItem item;
-        ast_dataitem_scan(&item, record.data() + pos, record.size() - pos,
-                          ast_uap_get_dataitem(&AST_UAP_STANDARD, 4, frn));
-        ASSERT_EQ(item.valid, 1) << "FRN " << frn;
-        scanned.emplace_back(item.id, item.length);
-        pos += static_cast<size_t>(item.length);
-    }
-    EXPECT_EQ(scanned, expected);
-    EXPECT_EQ(pos, record.size());
+    size_t consumed = 0;
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 4, record, &consumed), expected);
+    EXPECT_EQ(consumed, record.size());
     EXPECT_EQ(log.size(), 0u);
 }
 

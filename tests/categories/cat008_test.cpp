@@ -7,6 +7,7 @@
 #include "kovrel/dataitem.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
 
@@ -103,16 +104,5 @@ TEST(Cat008, RecordScansBackToBack) {
         {0x02, 0x00},                                      // I008/RFS
     };
     ASSERT_EQ(ast_uap_max_frn(&AST_UAP_STANDARD, 8), items.size());
-    std::vector<uint8_t> body;
-    for (const auto &i : items) body.insert(body.end(), i.begin(), i.end());
-    size_t pos = 0;
-    for (uint32_t frn = 1; frn <= items.size(); ++frn) {
-        const AstItemId id = ast_uap_get_dataitem(&AST_UAP_STANDARD, 8, frn);
-        AstDataItem item;
-        ast_dataitem_scan(&item, body.data() + pos, body.size() - pos, id);
-        ASSERT_EQ(item.valid, 1) << "FRN " << frn;
-        EXPECT_EQ(item.length, items[frn - 1].size()) << "FRN " << frn;
-        pos += item.length;
-    }
-    EXPECT_EQ(pos, body.size());
+    kovrel_test::expect_frn_items(8, items);
 }

@@ -7,6 +7,7 @@
 #include "kovrel/dataitem.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
 
@@ -94,20 +95,5 @@ TEST(Cat010, RecordScansBackToBack) {
         {0x03, 0x01, 0x02},                                // I010/REF
     };
     ASSERT_EQ(ast_uap_max_frn(&AST_UAP_STANDARD, 10), items.size());
-    std::vector<uint8_t> body;
-    for (const auto &i : items) body.insert(body.end(), i.begin(), i.end());
-    size_t pos = 0;
-    for (uint32_t frn = 1; frn <= items.size(); ++frn) {
-        const AstItemId id = ast_uap_get_dataitem(&AST_UAP_STANDARD, 10, frn);
-        if (items[frn - 1].empty()) {
-            EXPECT_EQ(id, 0u) << "FRN " << frn;
-            continue;
-        }
-        AstDataItem item;
-        ast_dataitem_scan(&item, body.data() + pos, body.size() - pos, id);
-        ASSERT_EQ(item.valid, 1) << "FRN " << frn;
-        EXPECT_EQ(item.length, items[frn - 1].size()) << "FRN " << frn;
-        pos += item.length;
-    }
-    EXPECT_EQ(pos, body.size());
+    kovrel_test::expect_frn_items(10, items);
 }

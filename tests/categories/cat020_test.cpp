@@ -8,6 +8,7 @@
 #include "kovrel/subfield.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
 
@@ -120,16 +121,5 @@ TEST(Cat020, RecordScansBackToBack) {
         {0x01},                                            // I020/SPF
     };
     ASSERT_EQ(ast_uap_max_frn(&AST_UAP_STANDARD, 20), items.size());
-    std::vector<uint8_t> body;
-    for (const auto &i : items) body.insert(body.end(), i.begin(), i.end());
-    size_t pos = 0;
-    for (uint32_t frn = 1; frn <= items.size(); ++frn) {
-        const AstItemId id = ast_uap_get_dataitem(&AST_UAP_STANDARD, 20, frn);
-        AstDataItem item;
-        ast_dataitem_scan(&item, body.data() + pos, body.size() - pos, id);
-        ASSERT_EQ(item.valid, 1) << "FRN " << frn;
-        EXPECT_EQ(item.length, items[frn - 1].size()) << "FRN " << frn;
-        pos += item.length;
-    }
-    EXPECT_EQ(pos, body.size());
+    kovrel_test::expect_frn_items(20, items);
 }

@@ -9,9 +9,12 @@
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
-using Octets = std::vector<uint8_t>;
+using kovrel_test::Octets;
+using kovrel_test::Scanned;
+using kovrel_test::walk;
 
 namespace {
 
@@ -99,25 +102,12 @@ TEST(Cat023, WholeRecordScansBackToBack) {
         0x01, 0x05, 0x80, 0x00, 0x00, 0x01, 0x00,                    // I023/120
         0x03, 0x11, 0x22,                                            // I023/SPF
     };
-    const std::vector<std::pair<AstItemId, uint64_t>> expected = {
+    const std::vector<Scanned> expected = {
         {23010, 2}, {23000, 1}, {23015, 1}, {23070, 3}, {23100, 2},
         {23101, 3}, {23200, 1}, {23110, 1}, {23120, 7}, {23999, 3}};
 
-    AstFspec fspec;
-    ast_fspec_decode(&fspec, record.data(), record.size());
-    ASSERT_EQ(fspec.valid, 1);
-    size_t pos = static_cast<size_t>(fspec.length);
-    std::vector<std::pair<AstItemId, uint64_t>> scanned;
-    for (uint32_t frn = 1; frn <= fspec.frn_count; ++frn) {
-        if (!ast_fspec_is_set(&fspec, frn)) continue;
-        AstDataItem item;
-        ast_dataitem_scan(&item, record.data() + pos, record.size() - pos,
-                          ast_uap_get_dataitem(&AST_UAP_STANDARD, 23, frn));
-        ASSERT_EQ(item.valid, 1) << "FRN " << frn;
-        scanned.emplace_back(item.id, item.length);
-        pos += static_cast<size_t>(item.length);
-    }
-    EXPECT_EQ(scanned, expected);
-    EXPECT_EQ(pos, record.size());
+    size_t consumed = 0;
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 23, record, &consumed), expected);
+    EXPECT_EQ(consumed, record.size());
     EXPECT_EQ(log.size(), 0u);
 }

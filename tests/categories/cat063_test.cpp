@@ -9,9 +9,12 @@
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
-using Octets = std::vector<uint8_t>;
+using kovrel_test::Octets;
+using kovrel_test::Scanned;
+using kovrel_test::walk;
 
 TEST(Cat063, NamesWithASilentFallback) {
     LogCapture log;
@@ -44,26 +47,13 @@ TEST(Cat063, WholeRecordScansBackToBack) {
         0x02, 0xAA,              // I063/REF
         0x01,                    // I063/SPF (its length octet only)
     };
-    const std::vector<std::pair<AstItemId, uint64_t>> expected = {
+    const std::vector<Scanned> expected = {
         {63010, 2}, {63015, 1}, {63030, 3}, {63050, 2}, {63060, 3}, {63070, 2}, {63080, 4},
         {63081, 2}, {63090, 4}, {63091, 2}, {63092, 2}, {63998, 2}, {63999, 1}};
 
-    AstFspec fspec;
-    ast_fspec_decode(&fspec, record.data(), record.size());
-    ASSERT_EQ(fspec.valid, 1);
-    size_t pos = static_cast<size_t>(fspec.length);
-    std::vector<std::pair<AstItemId, uint64_t>> scanned;
-    for (uint32_t frn = 1; frn <= fspec.frn_count; ++frn) {
-        if (!ast_fspec_is_set(&fspec, frn)) continue;
-        AstDataItem item;
-        ast_dataitem_scan(&item, record.data() + pos, record.size() - pos,
-                          ast_uap_get_dataitem(&AST_UAP_STANDARD, 63, frn));
-        ASSERT_EQ(item.valid, 1) << "FRN " << frn;
-        scanned.emplace_back(item.id, item.length);
-        pos += static_cast<size_t>(item.length);
-    }
-    EXPECT_EQ(scanned, expected);
-    EXPECT_EQ(pos, record.size());
+    size_t consumed = 0;
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 63, record, &consumed), expected);
+    EXPECT_EQ(consumed, record.size());
 
     // The status chain has no bound but must end inside the data.
     const Octets open = {0x81, 0x09};

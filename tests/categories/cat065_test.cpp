@@ -9,9 +9,12 @@
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
-using Octets = std::vector<uint8_t>;
+using kovrel_test::Octets;
+using kovrel_test::Scanned;
+using kovrel_test::walk;
 
 TEST(Cat065, NamesWithASilentFallback) {
     LogCapture log;
@@ -39,26 +42,13 @@ TEST(Cat065, WholeRecordScansBackToBack) {
         0x03, 0x01, 0x02,  // I065/REF
         0x02, 0x09,        // I065/SPF
     };
-    const std::vector<std::pair<AstItemId, uint64_t>> expected = {
+    const std::vector<Scanned> expected = {
         {65010, 2}, {65000, 1}, {65015, 1}, {65030, 3}, {65020, 1},
         {65040, 1}, {65050, 1}, {65998, 3}, {65999, 2}};
 
-    AstFspec fspec;
-    ast_fspec_decode(&fspec, record.data(), record.size());
-    ASSERT_EQ(fspec.valid, 1);
-    size_t pos = static_cast<size_t>(fspec.length);
-    std::vector<std::pair<AstItemId, uint64_t>> scanned;
-    for (uint32_t frn = 1; frn <= fspec.frn_count; ++frn) {
-        if (!ast_fspec_is_set(&fspec, frn)) continue;
-        AstDataItem item;
-        ast_dataitem_scan(&item, record.data() + pos, record.size() - pos,
-                          ast_uap_get_dataitem(&AST_UAP_STANDARD, 65, frn));
-        ASSERT_EQ(item.valid, 1) << "FRN " << frn;
-        scanned.emplace_back(item.id, item.length);
-        pos += static_cast<size_t>(item.length);
-    }
-    EXPECT_EQ(scanned, expected);
-    EXPECT_EQ(pos, record.size());
+    size_t consumed = 0;
+    EXPECT_EQ(walk(AST_UAP_STANDARD, 65, record, &consumed), expected);
+    EXPECT_EQ(consumed, record.size());
 
     // A record cut inside I065/030 stops the scan there.
     AstDataItem cut;

@@ -33,3 +33,12 @@ inline Octets fx_chain(size_t extended) {
 }
 
 }  // namespace kovrel_test
+
+namespace kovrel_test {
+
+// Scans items[0], items[1], ... back to back as the items of FRN 1, 2, ...
+// of `category` in the standard profile, and expects each to be delimited
+// at exactly its length (an empty entry stands for a spare FRN).
+void expect_frn_items(uint32_t category, const std::vector<Octets> &items);
+
+}  // namespace kovrel_test
