@@ -175,10 +175,18 @@ KOVREL_API void ast_dataitem_subfields_get_detail_html(char *buffer, size_t size
     w.resync();
     for (uint64_t i = 0; i < list.span_count; ++i) {
         const AstSubfield &span = list.spans[i];
+        // The columns hold at most two and four digits; longer numbers are cut on purpose.
         char number[3], length[5], present[4], summary[64];
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-truncation"
+#endif
         std::snprintf(number, sizeof number, "%zu", static_cast<size_t>(i + 1));
         std::snprintf(length, sizeof length, "%zu", static_cast<size_t>(span.length));
         std::snprintf(present, sizeof present, "%d", span.present);
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic pop
+#endif
         ast_subfield_get_summary(summary, sizeof summary, &span, span.id);
         ast_html_gen_table_row(w.end(), w.end_size(), 0, number, ast_subfield_get_id(span.id),
                                ast_subfield_get_name(span.id), length, present, summary, AST_HTML_TABLE_END_OF_ROW);

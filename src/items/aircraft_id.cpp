@@ -1,0 +1,59 @@
+// Aircraft identification: eight six-bit ICAO characters in 6 octets.
+#include "items/mode_common.h"
+#include "kovrel/items_mode.h"
+
+namespace {
+
+using kovrel::TextWriter;
+namespace mode = kovrel::mode;
+
+constexpr uint64_t kLength = 6;
+
+// The sixth label reads "Bit[30-25]"; kept as it is for existing consumers
+// that match on the labels.
+const char *const kCharBits[8] = {"Bit[0-5]",   "Bit[6-11]",  "Bit[12-17]", "Bit[18-23]",
+                                  "Bit[24-29]", "Bit[30-25]", "Bit[36-41]", "Bit[42-47]"};
+
+}  // namespace
+
+extern "C" {
+
+KOVREL_API void ast_dataitem_aircraft_id_init(AstAircraftId *out) {
+    if (out) *out = AstAircraftId{};
+}
+
+KOVREL_API void ast_dataitem_aircraft_id_decode(AstAircraftId *out, const AstDataItem *item) {
+    if (!out) return;
+    *out = AstAircraftId{};
+    if (!mode::span_ok(item, kLength)) return;
+    mode::chars_decode(out->chars, item->data);
+    out->valid = 1;
+}
+
+KOVREL_API void ast_dataitem_aircraft_id_encode(AstDataItem *out, uint8_t *buffer, size_t size,
+                                                const AstAircraftId *in) {
+    if (!mode::encode_start(out, buffer, size, kLength)) return;
+    if (!in || in->valid != 1) return;
+    mode::chars_encode(buffer, in->chars);
+    mode::encode_done(out, buffer, kLength);
+}
+
+KOVREL_API void ast_dataitem_aircraft_id_get_summary(char *buffer, size_t size, const AstDataItem *item) {
+    TextWriter w(buffer, size);
+    AstAircraftId a;
+    ast_dataitem_aircraft_id_decode(&a, item);
+    if (a.valid != 1) return;
+    w.appendf("ACID:%s", a.chars);
+}
+
+KOVREL_API void ast_dataitem_aircraft_id_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
+    TextWriter w(buffer, size);
+    AstAircraftId a;
+    ast_dataitem_aircraft_id_decode(&a, item);
+    if (a.valid != 1) return;
+    mode::table_begin(w);
+    mode::char_rows(w, a.chars, kCharBits);
+    mode::table_end(w);
+}
+
+}  // extern "C"

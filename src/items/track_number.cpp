@@ -1,0 +1,67 @@
+// Track number: two octets. Most categories give the number 12 bits under
+// four spare bits; a few items use all 16 bits.
+#include "items/ident_support.h"
+#include "kovrel/codec.h"
+#include "kovrel/items_ident.h"
+
+namespace {
+
+constexpr uint64_t kLength = 2;
+
+// Items whose track number fills all 16 bits: I001/161, I004/030,
+// I004/035, I015/161 and I062/040.
+bool sixteen_bit_item(AstItemId id) {
+    switch (id) {
+    case 1161:
+    case 4030:
+    case 4035:
+    case 15161:
+    case 62040: return true;
+    default: return false;
+    }
+}
+
+}  // namespace
+
+extern "C" {
+
+KOVREL_API void ast_dataitem_track_number_init(AstTrackNumber *out) {
+    if (out) *out = AstTrackNumber{0, 0, 0};
+}
+
+KOVREL_API void ast_dataitem_track_number_decode(AstTrackNumber *out, const AstDataItem *item) {
+    if (!out) return;
+    ast_dataitem_track_number_init(out);
+    if (!kovrel::ident::span_ok(item, kLength)) return;
+    uint32_t number = 0;
+    if (sixteen_bit_item(item->id)) {
+        ast_unsigned_decode(&number, item->data, 2);
+    } else {
+        ast_unsigned_decode_ex(&number, item->data, 2, 4);  // top 4 bits spare
+        out->twelve_bit = 1;
+    }
+    out->number = number;
+    out->valid = 1;
+}
+
+KOVREL_API void ast_dataitem_track_number_encode(AstDataItem *out, uint8_t *buffer, size_t size,
+                                                 const AstTrackNumber *in) {
+    if (!out) return;
+    kovrel::ident::encode_failed(out, buffer);
+    if (!in || !buffer || size < kLength || in->valid != 1) return;
+    const uint32_t limit = in->twelve_bit == 1 ? 0x0FFFu : 0xFFFFu;
+    if (in->number > limit) return;
+    // Within the limit the spare bits of the 12-bit form come out as 0.
+    ast_unsigned_encode(buffer, 2, in->number);
+    kovrel::ident::encoded(out, buffer, kLength);
+}
+
+KOVREL_API void ast_dataitem_track_number_get_summary(char *buffer, size_t size, const AstDataItem *item) {
+    kovrel::TextWriter w(buffer, size);
+    AstTrackNumber tn;
+    ast_dataitem_track_number_decode(&tn, item);
+    if (!tn.valid) return;
+    w.appendf("TRACK_NUM:%04d", static_cast<int>(tn.number));
+}
+
+}  // extern "C"

@@ -1,0 +1,121 @@
+// Vertical rate, LSB 6.25 ft/min, in two layouts: with a range-exceeded bit
+// (bit 16) above a 15-bit two's complement rate, and as a plain 16-bit two's
+// complement rate.
+#include <cstdio>
+
+#include "items/motion_support.h"
+#include "kovrel/codec.h"
+#include "kovrel/items_motion.h"
+
+namespace kovrel {
+namespace {
+
+constexpr double kLsbFeet = 6.25;
+constexpr double kLsbMetres = 1.905;  // 6.25 ft
+constexpr uint8_t kRangeExceeded = 0x80;
+
+void init(AstVerticalRate *out) {
+    if (out) *out = AstVerticalRate{0, 0, 0, kLsbFeet, 0.0};
+}
+
+void decode(AstVerticalRate *out, const AstDataItem *item, bool with_re) {
+    init(out);
+    if (!out || !motion::exact_span(item, 2)) return;
+    int32_t raw = 0;
+    uint8_t re = 0;
+    if (with_re) {
+        ast_twos_complement_decode_ex(&raw, item->data, 2, 1);
+        re = (item->data[0] & kRangeExceeded) ? 1 : 0;
+    } else {
+        ast_twos_complement_decode(&raw, item->data, 2);
+    }
+    *out = AstVerticalRate{1, re, raw, kLsbFeet, raw * kLsbFeet};
+}
+
+void encode(AstDataItem *out, uint8_t *buffer, size_t size, const AstVerticalRate *in, bool with_re) {
+    if (!out) return;
+    motion::encode_result(out, buffer, 0);
+    if (!in || !buffer || size < 2 || in->valid == 0) return;
+    // A non-zero rate (NaN included) means the caller filled the value; a
+    // zero rate sends the raw field.
+    const int32_t raw = in->value != 0.0 ? motion::truncate_i32(in->value / kLsbFeet) : in->raw;
+    buffer[0] = 0;
+    buffer[1] = 0;
+    if (with_re) {
+        ast_twos_complement_encode_ex(buffer, 2, raw, 1);
+        if (in->re == 1) buffer[0] |= kRangeExceeded;
+    } else {
+        ast_twos_complement_encode(buffer, 2, raw);
+    }
+    motion::encode_result(out, buffer, 2);
+}
+
+void summary(char *buffer, size_t size, const AstDataItem *item, bool with_re) {
+    TextWriter w(buffer, size);
+    AstVerticalRate vr;
+    decode(&vr, item, with_re);
+    if (vr.valid != 1) return;
+    w.appendf("VR:%.2fFT/M", vr.value);
+}
+
+void detail(char *buffer, size_t size, const AstDataItem *item, bool with_re) {
+    TextWriter w(buffer, size);
+    AstVerticalRate vr;
+    decode(&vr, item, with_re);
+    if (vr.valid != 1) return;
+    char text[32];
+    motion::table_begin(w, "Bit", "Item", "Value");
+    std::snprintf(text, sizeof text, "%d", vr.raw);
+    motion::table_row(w, "Bit[0-15]", "VERTICAL_RATE LSB=6.25FT/M", text);
+    std::snprintf(text, sizeof text, "%.2f", vr.value);
+    motion::table_row(w, "Bit[0-15]", "VERTICAL_RATE LSB=FT/M", text);
+    std::snprintf(text, sizeof text, "%.2f", vr.raw * kLsbMetres);
+    motion::table_row(w, "Bit[0-15]", "VERTICAL_RATE LSB=METER/M", text);
+    motion::table_end(w);
+}
+
+}  // namespace
+}  // namespace kovrel
+
+extern "C" {
+
+KOVREL_API void ast_dataitem_vertical_rate_init(AstVerticalRate *out) { kovrel::init(out); }
+
+KOVREL_API void ast_dataitem_vertical_rate_decode(AstVerticalRate *out, const AstDataItem *item) {
+    kovrel::decode(out, item, true);
+}
+
+KOVREL_API void ast_dataitem_vertical_rate_encode(AstDataItem *out, uint8_t *buffer, size_t size,
+                                                  const AstVerticalRate *in) {
+    kovrel::encode(out, buffer, size, in, true);
+}
+
+KOVREL_API void ast_dataitem_vertical_rate_get_summary(char *buffer, size_t size, const AstDataItem *item) {
+    kovrel::summary(buffer, size, item, true);
+}
+
+KOVREL_API void ast_dataitem_vertical_rate_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
+    kovrel::detail(buffer, size, item, true);
+}
+
+KOVREL_API void ast_dataitem_vertical_rate_no_re_init(AstVerticalRateNoRe *out) { kovrel::init(out); }
+
+KOVREL_API void ast_dataitem_vertical_rate_no_re_decode(AstVerticalRateNoRe *out, const AstDataItem *item) {
+    kovrel::decode(out, item, false);
+}
+
+KOVREL_API void ast_dataitem_vertical_rate_no_re_encode(AstDataItem *out, uint8_t *buffer, size_t size,
+                                                        const AstVerticalRateNoRe *in) {
+    kovrel::encode(out, buffer, size, in, false);
+}
+
+KOVREL_API void ast_dataitem_vertical_rate_no_re_get_summary(char *buffer, size_t size, const AstDataItem *item) {
+    kovrel::summary(buffer, size, item, false);
+}
+
+KOVREL_API void ast_dataitem_vertical_rate_no_re_get_detail_html(char *buffer, size_t size,
+                                                                 const AstDataItem *item) {
+    kovrel::detail(buffer, size, item, false);
+}
+
+}  // extern "C"
