@@ -31,7 +31,30 @@ void exercise_item(const AstDataItem &item) {
     AstDataItemValue value;
     AstDataItemFuncs f;
     ast_dataitem_get_func(&f, item.id);
-    if (f.decode_ex) ast_dataitem_decode(&value, storage, sizeof storage, &item);
+    if (f.decode_ex) {
+        ast_dataitem_decode(&value, storage, sizeof storage, &item);
+        // Whatever decoded must encode back without overrunning any buffer.
+        if (f.encode_ex && value.value) {
+            static uint8_t encoded[1 << 12];
+            AstDataItem out;
+            ast_dataitem_encode(&out, encoded, sizeof encoded, &value);
+            if (out.valid == 1 && out.length > sizeof encoded) __builtin_trap();
+            const size_t tight = item.length > 1 ? static_cast<size_t>(item.length - 1) : 0;
+            ast_dataitem_encode(&out, encoded, tight, &value);
+            if (out.valid == 1 && out.length > tight) __builtin_trap();
+        }
+    }
+    // Any seven octets can be a Mode S register: decode and render them as
+    // every register the library knows.
+    if (item.valid == 1 && item.length >= 7) {
+        static const uint32_t codes[] = {0x05, 0x08, 0x09, 0x10, 0x20, 0x30, 0x40, 0x50, 0x60};
+        for (uint32_t code : codes) {
+            AstDataItem reg;
+            ast_bds_decode(&reg, item.data + item.length - 7, 7, code);
+            ast_bds_get_detail_html(g_text, sizeof g_text, &reg);
+            ast_bds_get_detail_html(g_text, 19, &reg);
+        }
+    }
 
     if (ast_dataitem_get_capabilities(item.id) & AST_DATAITEM_CAP_DETAIL) {
         AstSubfieldList list;
