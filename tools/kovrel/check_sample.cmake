@@ -1,6 +1,8 @@
 # Runs the kovrel tool on its sample recording and fails unless it exits 0,
 # reports no bad block and no problem, and prints records.
-#   cmake -DKOVREL=path/to/kovrel -DSAMPLE=path/to/sample.pcap -P check_sample.cmake
+# With --format html it writes one whole page per input, and refuses
+# several inputs without -o.
+#   cmake -DKOVREL=path/to/kovrel -DSAMPLE=path/to/sample.pcap -DWORK=dir -P check_sample.cmake
 
 function(check_run label)
   execute_process(COMMAND ${ARGN}
@@ -34,3 +36,29 @@ if(NOT builtin STREQUAL last_out)
   message(FATAL_ERROR "the built-in sample and sample.pcap decode differently")
 endif()
 check_run("JSON of sample.pcap" ${KOVREL} decode --stats --format json ${SAMPLE})
+
+set(page ${WORK}/check_sample.html)
+set(page2 ${WORK}/check_sample-2.html)
+file(REMOVE ${page} ${page2})
+execute_process(COMMAND ${KOVREL} decode --format html -o ${page} ${SAMPLE} ${SAMPLE}
+  RESULT_VARIABLE status ERROR_VARIABLE err)
+if(NOT status EQUAL 0 OR err MATCHES "kovrel: ")
+  message(FATAL_ERROR "HTML of two inputs: exit status ${status}\n${err}")
+endif()
+foreach(p ${page} ${page2})
+  if(NOT EXISTS ${p})
+    message(FATAL_ERROR "HTML of two inputs: ${p} not written")
+  endif()
+  file(SIZE ${p} size)
+  math(EXPR tail "${size} - 16")
+  file(READ ${p} head LIMIT 65536)
+  file(READ ${p} end OFFSET ${tail})
+  if(NOT head MATCHES "^<!DOCTYPE html>" OR NOT head MATCHES "<details class=\"record" OR NOT end MATCHES "</html>\n$")
+    message(FATAL_ERROR "HTML of two inputs: ${p} is not a whole page")
+  endif()
+endforeach()
+execute_process(COMMAND ${KOVREL} decode --format html ${SAMPLE} ${SAMPLE}
+  RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+if(NOT status EQUAL 2 OR NOT out STREQUAL "" OR NOT err MATCHES "give -o FILE")
+  message(FATAL_ERROR "HTML of two inputs without -o: exit status ${status}\n${err}")
+endif()

@@ -7,6 +7,7 @@
 #include <kovrel/kovrel.h>
 
 #include "commands.h"
+#include "output_html.h"
 #include "profiles.h"
 #include "progress.h"
 #include "sample.h"
@@ -20,15 +21,31 @@ int log_to_stderr(uint32_t level, const char *text) {
     return std::fprintf(stderr, "kovrel: library %s: %s\n", level < 5 ? names[level] : "UNKNOWN", text);
 }
 
+// Flushes and closes an output (standard output is flushed only). Returns
+// 0, or the errno of the first write that failed.
+int finish_output(std::FILE *out, const DecodeSession &session) {
+    int error = session.output_failed() ? (session.output_errno() ? session.output_errno() : EIO) : 0;
+    if (error == 0 && (std::fflush(out) != 0 || std::ferror(out))) error = errno ? errno : EIO;
+    if (out != stdout && std::fclose(out) != 0 && error == 0) error = errno;
+    return error;
+}
+
+std::FILE *open_output(const std::string &path) {
+    std::FILE *out = std::fopen(path.c_str(), "w");
+    if (!out) std::fprintf(stderr, "kovrel: cannot write %s: %s\n", path.c_str(), std::strerror(errno));
+    return out;
+}
+
 }  // namespace
 
 int run_decode(const DecodeOptions &options) {
-    if (options.format == "html") {
-        std::fprintf(stderr, "kovrel: --format html is not available yet; use --format text or json\n");
+    if (options.format != "text" && options.format != "json" && options.format != "html") {
+        std::fprintf(stderr, "kovrel: unknown format '%s'; use text, json or html\n", options.format.c_str());
         return 2;
     }
-    if (options.format != "text" && options.format != "json") {
-        std::fprintf(stderr, "kovrel: unknown format '%s'; use text or json\n", options.format.c_str());
+    const bool html = options.format == "html";
+    if (html && options.files.size() > 1 && options.output.empty()) {
+        std::fprintf(stderr, "kovrel: --format html writes one page per input; give -o FILE for several inputs\n");
         return 2;
     }
     SessionSettings settings;
@@ -44,13 +61,7 @@ int run_decode(const DecodeOptions &options) {
         }
     }
     std::FILE *out = stdout;
-    if (!options.output.empty()) {
-        out = std::fopen(options.output.c_str(), "w");
-        if (!out) {
-            std::fprintf(stderr, "kovrel: cannot write %s: %s\n", options.output.c_str(), std::strerror(errno));
-            return 2;
-        }
-    }
+    if (!options.output.empty() && !(out = open_output(options.output))) return 2;
     // A reader that goes away (`kovrel | head`) ends the run quietly.
     std::signal(SIGPIPE, SIG_IGN);
     set_library_log(options.log ? log_to_stderr : nullptr);
@@ -63,24 +74,44 @@ int run_decode(const DecodeOptions &options) {
     session.on_progress = [&](uint64_t done) { progress.update(done); };
     session.before_message = [&] { progress.clear(); };
 
+    const bool sample = options.files.empty();
+    const size_t inputs = sample ? 1 : options.files.size();
+    auto decode = [&](size_t i) {
+        if (sample)
+            session.decode_memory("(built-in sample)", kSamplePcap, kSamplePcapSize);
+        else
+            session.decode_file(options.files[i]);
+    };
+    auto input_name = [&](size_t i) -> std::string {
+        if (sample) return "(built-in sample)";
+        return options.files[i] == "-" ? "(standard input)" : options.files[i];
+    };
+
+    int status = 0;
+    int write_errno = 0;
     const auto started = std::chrono::steady_clock::now();
-    if (options.files.empty()) {
-        session.decode_memory("(built-in sample)", kSamplePcap, kSamplePcapSize);
-    } else {
-        for (const auto &file : options.files) {
-            if (session.output_failed()) break;
-            session.decode_file(file);
+    for (size_t i = 0; i < inputs && !session.output_failed(); ++i) {
+        if (!html) {
+            decode(i);
+            continue;
         }
+        // Each input has its own page; the first goes to the output opened above.
+        std::FILE *page = i == 0 ? out : open_output(page_file_name(options.output, i));
+        if (!page) {
+            status = 1;
+            break;
+        }
+        write_page(session, page, input_name(i), [&] { decode(i); });
+        if (i > 0 && (write_errno = finish_output(page, session)) != 0) break;
     }
     progress.clear();
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
 
-    int status = 0;
-    int write_errno = session.output_errno();
-    if (!session.output_failed() && std::fflush(out) != 0) write_errno = errno;
-    if (out != stdout && std::fclose(out) != 0 && write_errno == 0) write_errno = errno;
-    if ((session.output_failed() || write_errno != 0) && write_errno != EPIPE) {
-        std::fprintf(stderr, "kovrel: writing the records failed: %s\n", std::strerror(write_errno));
+    const int last = finish_output(out, session);
+    if (write_errno == 0) write_errno = last;
+    if (write_errno != 0 && write_errno != EPIPE) {
+        std::fprintf(stderr, "kovrel: writing the %s failed: %s\n", html ? "page" : "records",
+                     std::strerror(write_errno));
         status = 1;
     }
     set_library_log(nullptr);

@@ -17,18 +17,18 @@ int run_uap(std::FILE *out, const std::string &profile, unsigned category);
 // Options of `kovrel [decode] [FILE...]`.
 struct DecodeOptions {
     std::vector<std::string> files;  // none: the built-in sample recording
-    std::string format = "text";     // text | json (html is not there yet)
+    std::string format = "text";     // text | json | html (one page per input)
     bool items = false;              // text: one line per item too
     std::string uap = "auto";        // auto (smart decoding) or a profile name
     bool stats = false;              // counts and throughput on standard error
-    std::string output;              // write records here instead of stdout
+    std::string output;              // write records here instead of stdout (html: see page_file_name)
     bool log = false;                // library log lines on standard error
 };
 
 // `kovrel [decode] [FILE...]`: decodes recordings (pcap, pcapng, raw
 // blocks, hexadecimal text). Exit status 0, or 1 when nothing could be
-// read (no input readable, or no valid block in any of them), 2 for bad
-// options.
+// read (no input readable, or no valid block in any of them) or writing
+// failed, 2 for bad options (also: html for several inputs without -o).
 int run_decode(const DecodeOptions &options);
 
 }  // namespace kovrel_tool

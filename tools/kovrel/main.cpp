@@ -9,7 +9,9 @@ namespace {
 // `kovrel decode` and plain `kovrel` take the same options, bound to the
 // same storage.
 void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
-    app->add_option("--format", o.format, "text: one line per record; json: one JSON object per record")
+    app->add_option("--format", o.format,
+                    "text: one line per record; json: one JSON object per record; html: one self-contained "
+                    "page per input (records as collapsible sections with item tables, detail views, octets)")
         ->check(CLI::IsMember({"text", "json", "html"}))
         ->capture_default_str();
     app->add_flag("--items", o.items, "text: one indented line per item (id, name, length, octets, summary)");
@@ -18,7 +20,9 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                     "cat021_ver21, cat021_ver27, asr10ss, asr10ss_mk2, thales, managair")
         ->capture_default_str();
     app->add_flag("--stats", o.stats, "counts per category, source, message type and profile; MB/s");
-    app->add_option("-o,--output", o.output, "write the records to FILE instead of standard output");
+    app->add_option("-o,--output", o.output,
+                    "write the records to FILE instead of standard output; html with several inputs (needs -o): "
+                    "FILE for the first, then FILE with -2, -3, ... before the extension (out.html, out-2.html)");
     app->add_flag("--log", o.log, "library log lines on standard error");
     app->add_option("files", o.files,
                     "pcap, pcapng, raw data blocks or hexadecimal text (\"-\": standard input); "
@@ -27,7 +31,8 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
         "Inputs are told apart by their content. Text lines read: block number, block location (\"@N\": "
         "octet N of a raw or hex input; \"pkt P+N\": octet N of the UDP payload of packet P), category, "
         "profile, record number, record length, item count, valid. Bad blocks are reported on standard error "
-        "and decoding goes on. Exit status 1 when nothing could be read, 2 for bad options.");
+        "(and, with html, on the page where they occur) and decoding goes on. Exit status 1 when nothing could "
+        "be read or writing failed, 2 for bad options.");
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "blocks.h"
 #include "output.h"
+#include "output_html.h"
 
 namespace kovrel_tool {
 namespace {
@@ -25,10 +26,19 @@ std::string cat_text(const uint8_t *data, size_t size) {
 DecodeSession::DecodeSession(const SessionSettings &settings, std::FILE *out, std::FILE *messages)
     : settings_(settings), out_(out), messages_(messages), decoder_(settings.uap) {}
 
+void DecodeSession::set_output(std::FILE *out, HtmlPage *page) {
+    out_ = out;
+    page_ = page;
+}
+
 void DecodeSession::message(const std::string &name, const std::string &text) {
     if (before_message) before_message();
     std::fprintf(messages_, "kovrel: %s: %s\n", name.c_str(), text.c_str());
     std::fflush(messages_);
+    if (page_ && !output_failed_) {
+        page_->problem(text);
+        check_output();
+    }
 }
 
 void DecodeSession::unreadable(const std::string &name, const std::string &why) {
@@ -40,7 +50,11 @@ void DecodeSession::write_line(const std::string &line) {
     if (output_failed_) return;
     std::fputs(line.c_str(), out_);
     std::fputc('\n', out_);
-    if (std::ferror(out_)) {
+    check_output();
+}
+
+void DecodeSession::check_output() {
+    if (!output_failed_ && std::ferror(out_)) {
         output_failed_ = true;
         output_errno_ = errno;
     }
@@ -214,8 +228,14 @@ void DecodeSession::emit(const std::string &name, uint64_t block, const Chunk &c
     view.time = chunk.time;
     view.block_valid = outcome.valid;
     auto one = [&](const AstDataRecord &record, size_t number) {
+        if (output_failed_) return;
         view.record = &record;
         view.number = number;
+        if (page_) {
+            page_->record(view);
+            check_output();
+            return;
+        }
         if (settings_.json) {
             write_line(json_line(record_json(view)));
             return;

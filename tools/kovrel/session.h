@@ -14,9 +14,11 @@
 
 namespace kovrel_tool {
 
+class HtmlPage;
+
 struct SessionSettings {
     const AstUap *uap = nullptr;  // nullptr: smart decoding
-    bool json = false;            // JSON Lines instead of text
+    bool json = false;            // JSON Lines instead of text (without a page)
     bool items = false;           // text: one line per item as well
 };
 
@@ -37,6 +39,11 @@ public:
     bool decode_file(const std::string &path);
     // Decodes octets held in memory, of any kind decode_file accepts.
     bool decode_memory(const std::string &name, const uint8_t *data, size_t size);
+
+    // Writes what follows to out: records as lines, or, with a page, the
+    // records and the messages (these still go to `messages` as well) into
+    // the page, which writes on out too.
+    void set_output(std::FILE *out, HtmlPage *page = nullptr);
 
     const Stats &stats() const { return stats_; }
     // True once writing a record failed (a closed pipe, a full disk): the
@@ -59,12 +66,14 @@ private:
     void emit(const std::string &name, uint64_t block, const Chunk &chunk, const Location &where,
               const BlockOutcome &outcome);
     void write_line(const std::string &line);
+    void check_output();
     void message(const std::string &name, const std::string &text);
     void unreadable(const std::string &name, const std::string &why);
 
     SessionSettings settings_;
     std::FILE *out_;
     std::FILE *messages_;
+    HtmlPage *page_ = nullptr;
     BlockDecoder decoder_;
     Stats stats_;
     uint64_t block_no_ = 0;
