@@ -23,6 +23,52 @@ KOVREL_BEGIN_DECLS
 KOVREL_API const char *ast_dataitem_004_get_name(AstItemId id);
 
 /*
+ * Items served by the common items of items_ident.h and items_mode.h.
+ * Their summaries and detail views are the common item's, except for the
+ * message type, which the common item only reads and writes; decode_ex
+ * fills the common item's structure (the storage must hold it) and
+ * encode_ex writes the item from that structure (see ast_dataitem_decode
+ * and ast_dataitem_encode).
+ */
+
+/*
+ * I004/000 Message Type: read and written as the common message type
+ * (AstMessageType holding the safety-net message type value).
+ */
+KOVREL_API void ast_dataitem_004_000_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_004_000_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I004/010 Data Source Identifier: data source identifier (AstDataSourceIdentifier). */
+KOVREL_API void ast_dataitem_004_010_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_004_010_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I004/020 Time of Message: time of day (AstTimeOfDay). */
+KOVREL_API void ast_dataitem_004_020_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_004_020_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I004/030 Track Number 1, I004/035 Track Number 2: track number, all 16 bits (AstTrackNumber). */
+KOVREL_API void ast_dataitem_004_030_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_004_030_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_004_035_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_004_035_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I004/REF and I004/SPF: reserved expansion and special purpose fields (AstExplicitField), no detail view. */
+KOVREL_API void ast_dataitem_004_REF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_004_SPF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/*
  * Compound items. Each item's size function delimits the whole item (primary
  * subfield and the subfields it announces); the subfield functions take the
  * subfield identifier, item identifier x 1000 + subfield number (4100001 is

@@ -13,6 +13,7 @@
 
 #include "kovrel/dataitem.h"
 #include "kovrel/export.h"
+#include "kovrel/items.h"
 
 KOVREL_BEGIN_DECLS
 
@@ -32,6 +33,46 @@ KOVREL_API const char *ast_dataitem_008_get_name(AstItemId id);
  * goes on reading after the part the category defines.
  */
 KOVREL_API uint64_t ast_dataitem_008_100_get_size(const uint8_t *octets, size_t available);
+
+/*
+ * Items served by the common items (items.h). Their summaries and detail
+ * views are the common item's; the structured entry points below decode
+ * into, and encode from, the common item's structure.
+ *
+ * _decode_ex: *out = {valid flag of the structure, item id, storage} after
+ * decoding into storage; {0, item id, NULL} and nothing written when
+ * storage is NULL or smaller than the structure, or the item is not valid.
+ * _encode_ex: writes the item from value->value (a pointer to the
+ * structure) into buffer; *out is the written span carrying value->id, of
+ * length 0 and valid 0 when the common encoder refuses the value.
+ */
+
+/* I008/010 Data Source Identifier: data source identifier (AstDataSourceIdentifier). */
+KOVREL_API void ast_dataitem_008_010_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_008_010_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I008/000 Message Type: message type (AstMessageType); no summary or detail view. */
+KOVREL_API void ast_dataitem_008_000_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_008_000_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I008/090 Time of Day: time of day (AstTimeOfDay). */
+KOVREL_API void ast_dataitem_008_090_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_008_090_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/*
+ * SPF and RFS: special purpose field (AstSpecialPurposeField) and random field
+ * sequencing (AstRandomFieldSequencing); decode only, no detail view.
+ */
+KOVREL_API void ast_dataitem_008_SPF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_008_RFS_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
 
 KOVREL_END_DECLS
 

@@ -16,6 +16,7 @@
 
 #include "kovrel/dataitem.h"
 #include "kovrel/export.h"
+#include "kovrel/items.h"
 #include "kovrel/subfield.h"
 
 KOVREL_BEGIN_DECLS
@@ -148,6 +149,47 @@ KOVREL_API void ast_subfield_015_630_get_summary(char *buffer, size_t size, cons
                                                  uint32_t subfield_id);
 KOVREL_API void ast_subfield_015_630_get_detail_html(char *buffer, size_t size, const AstSubfield *span,
                                                      uint32_t subfield_id);
+
+/*
+ * Items served by the common items (items.h). Their summaries and detail
+ * views are the common item's; the structured entry points below decode
+ * into, and encode from, the common item's structure.
+ *
+ * _decode_ex: *out = {valid flag of the structure, item id, storage} after
+ * decoding into storage; {0, item id, NULL} and nothing written when
+ * storage is NULL or smaller than the structure, or the item is not valid.
+ * _encode_ex: writes the item from value->value (a pointer to the
+ * structure) into buffer; *out is the written span carrying value->id, of
+ * length 0 and valid 0 when the common encoder refuses the value.
+ */
+
+/* I015/010 Data Source Identifier: data source identifier (AstDataSourceIdentifier). */
+KOVREL_API void ast_dataitem_015_010_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_015_010_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I015/015 Service Identification: service identification (AstServiceId); no detail view. */
+KOVREL_API void ast_dataitem_015_015_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_015_015_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I015/145 Time of Applicability: time of day (AstTimeOfDay). */
+KOVREL_API void ast_dataitem_015_145_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_015_145_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I015/161 Track/Plot Number: 16-bit track number (AstTrackNumber); no detail view. */
+KOVREL_API void ast_dataitem_015_161_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_015_161_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* SPF: special purpose field (AstSpecialPurposeField); decode only, no detail view. */
+KOVREL_API void ast_dataitem_015_SPF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
 
 KOVREL_END_DECLS
 

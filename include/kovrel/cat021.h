@@ -22,6 +22,7 @@
 
 #include "kovrel/dataitem.h"
 #include "kovrel/export.h"
+#include "kovrel/items.h"
 #include "kovrel/subfield.h"
 
 KOVREL_BEGIN_DECLS
@@ -34,6 +35,138 @@ KOVREL_BEGIN_DECLS
  * for identifiers from 21008 to 21399.
  */
 KOVREL_API const char *ast_dataitem_021_get_name(AstItemId id);
+
+/*
+ * Items laid out as one of the common items (items_ident.h, items_motion.h,
+ * items_mode.h). decode_ex decodes into caller storage of at least the
+ * common item's structure, encode_ex writes the item from one (see
+ * AstDataItemValue in dataitem.h); the item's summary and detail view are
+ * the common item's.
+ */
+
+/* I021/010 data source identifier: AstDataSourceIdentifier. */
+KOVREL_API void ast_dataitem_021_010_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_010_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I021/015 service identification: AstServiceId. */
+KOVREL_API void ast_dataitem_021_015_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_015_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/*
+ * I021/030 (editions 0.23 and 0.26), 071, 072, 073, 075 and 077 time of
+ * day, 1/128 s: AstTimeOfDay.
+ */
+KOVREL_API void ast_dataitem_021_030_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_030_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_021_071_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_071_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_021_072_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_072_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_021_073_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_073_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_021_075_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_075_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_021_077_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_077_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I021/074 and 076 high-precision time of message reception: AstTimeOfDayHigh, decoded only. */
+KOVREL_API void ast_dataitem_021_074_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_076_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/* I021/070 Mode 3/A code: AstMode3aCode. */
+KOVREL_API void ast_dataitem_021_070_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_070_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I021/080 target address: AstTargetAddress. */
+KOVREL_API void ast_dataitem_021_080_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_080_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I021/161 track number, 12 bits: AstTrackNumber. */
+KOVREL_API void ast_dataitem_021_161_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_161_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I021/170 target identification, eight characters in 6 octets: AstAircraftId. */
+KOVREL_API void ast_dataitem_021_170_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_170_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I021/130 WGS-84 position in 6 octets, LSB 180/2^23: AstPositionWgs84Low. */
+KOVREL_API void ast_dataitem_021_130_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_130_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/*
+ * I021/131 (LSB 180/2^30) and 21902, the position of edition 0.26 (LSB
+ * 180/2^25), WGS-84 positions in 8 octets: AstPositionWgs84. Both are
+ * written back at 180/2^25.
+ */
+KOVREL_API void ast_dataitem_021_131_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_131_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_021_A02_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_A02_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I021/155 and 157 vertical rates with the range-exceeded bit: AstVerticalRate. */
+KOVREL_API void ast_dataitem_021_155_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_155_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_021_157_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_157_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* 21909 and 21910, the 16-bit vertical rates of editions up to 0.26: AstVerticalRateNoRe. */
+KOVREL_API void ast_dataitem_021_A09_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_A09_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+KOVREL_API void ast_dataitem_021_A10_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_A10_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I021/250 Mode S MB data: AstModesMb, decoded only. */
+KOVREL_API void ast_dataitem_021_250_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/*
+ * I021/REF and I021/SPF, the reserved expansion and special purpose fields:
+ * AstReservedExpansionField and AstSpecialPurposeField, decoded only.
+ */
+KOVREL_API void ast_dataitem_021_REF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_021_SPF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
 
 /**
  * Size of 21907, the surface capabilities of editions 1.0 to 2.1: 1 when the

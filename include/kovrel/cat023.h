@@ -3,6 +3,10 @@
  *
  * cat023.h: Category 023, CNS/ATM ground station and service status
  * reports (ADS-B and related ground stations).
+ *
+ * I023/010 and I023/070 are summarised and shown through the common data
+ * source identifier and time of day (items_ident.h); the RE and SP fields
+ * through the common explicit-length fields (items_mode.h).
  */
 #ifndef KOVREL_CAT023_H
 #define KOVREL_CAT023_H

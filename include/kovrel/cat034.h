@@ -10,6 +10,7 @@
 
 #include "kovrel/dataitem.h"
 #include "kovrel/export.h"
+#include "kovrel/items.h"
 #include "kovrel/subfield.h"
 
 KOVREL_BEGIN_DECLS
@@ -54,6 +55,68 @@ KOVREL_API void ast_subfield_034_060_get_summary(char *buffer, size_t size, cons
                                                  uint32_t subfield_id);
 KOVREL_API void ast_subfield_034_060_get_detail_html(char *buffer, size_t size, const AstSubfield *span,
                                                      uint32_t subfield_id);
+
+/*
+ * Items served by the common items (items.h). Their summaries and detail
+ * views are the common item's (unless told otherwise below); the structured
+ * entry points decode into, and encode from, the common item's structure.
+ *
+ * _decode_ex: *out = {valid flag of the structure, item id, storage} after
+ * decoding into storage; {0, item id, NULL} and nothing written when
+ * storage is NULL or smaller than the structure, or the item is not valid.
+ * _encode_ex: writes the item from value->value (a pointer to the
+ * structure) into buffer; *out is the written span carrying value->id, of
+ * length 0 and valid 0 when the common encoder refuses the value.
+ */
+
+/*
+ * I034/000 Message Type: message type (AstMessageType). The summary is
+ * the category's own, below; there is no detail view.
+ */
+KOVREL_API void ast_dataitem_034_000_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_034_000_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+/**
+ * "MSG_TYPE:NORTH_MARKER" (1), "MSG_TYPE:SECTOR_CROSSING" (2),
+ * "MSG_TYPE:GEO_FILTERING" (3), "MSG_TYPE:JAMMING_STROBE" (4), any other
+ * value "MSG_TYPE:UNDEFINED". The empty text for a span that is not a valid
+ * one-octet I034/000.
+ */
+KOVREL_API void ast_dataitem_034_000_get_summary(char *buffer, size_t size, const AstDataItem *item);
+
+/* I034/010 Data Source Identifier: data source identifier (AstDataSourceIdentifier). */
+KOVREL_API void ast_dataitem_034_010_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_034_010_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I034/020 Sector Number: sector number (AstSectorNumber). */
+KOVREL_API void ast_dataitem_034_020_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_034_020_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I034/030 Time of Day: time of day (AstTimeOfDay). */
+KOVREL_API void ast_dataitem_034_030_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_034_030_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I034/041 Antenna Rotation Period: antenna rotation period (AstAntennaRotationPeriod). */
+KOVREL_API void ast_dataitem_034_041_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_034_041_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/*
+ * REF and SPF: reserved expansion field (AstReservedExpansionField) and
+ * special purpose field (AstSpecialPurposeField); decode only, no detail view.
+ */
+KOVREL_API void ast_dataitem_034_REF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_034_SPF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
 
 KOVREL_END_DECLS
 

@@ -34,6 +34,76 @@ KOVREL_API const char *ast_dataitem_062_get_name(AstItemId id);
  */
 KOVREL_API uint64_t ast_dataitem_062_510_get_size(const uint8_t *octets, size_t available);
 
+/*
+ * Items served by the common items of items_ident.h, items_motion.h and
+ * items_mode.h. Their summaries and detail views are the common item's;
+ * decode_ex fills the common item's structure (the storage must hold it)
+ * and encode_ex writes the item from that structure (see
+ * ast_dataitem_decode and ast_dataitem_encode).
+ */
+
+/* I062/010 Data Source Identifier: data source identifier (AstDataSourceIdentifier). */
+KOVREL_API void ast_dataitem_062_010_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_062_010_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I062/015 Service Identification: service identification (AstServiceId). */
+KOVREL_API void ast_dataitem_062_015_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_062_015_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I062/040 Track Number: track number, all 16 bits (AstTrackNumber, twelve_bit 0). */
+KOVREL_API void ast_dataitem_062_040_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_062_040_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I062/060 Track Mode 3/A Code: Mode 3/A code, bit 6 read as "changed" (AstMode3aCode). */
+KOVREL_API void ast_dataitem_062_060_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_062_060_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I062/070 Time of Track Information: time of day (AstTimeOfDay). */
+KOVREL_API void ast_dataitem_062_070_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_062_070_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I062/100 Calculated Track Position (Cartesian): Cartesian position (AstPositionCartesian), no detail view. */
+KOVREL_API void ast_dataitem_062_100_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/*
+ * I062/105 Calculated Position in WGS84 Coordinates: 8-octet WGS-84 position
+ * (AstPositionWgs84, LSB 180/2^25); AST_OPTION_I062_105_NEGATE_WEST_LONGITUDE
+ * applies to the decode, the summary and the detail view.
+ */
+KOVREL_API void ast_dataitem_062_105_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/* I062/120 Track Mode 2 Code: Mode 3/A code layout, summarised as "MODE_2:%04o" (AstMode3aCode). */
+KOVREL_API void ast_dataitem_062_120_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_062_120_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
+
+/* I062/185 Calculated Track Velocity (Cartesian): Cartesian velocity (AstVelocityCartesian), no detail view. */
+KOVREL_API void ast_dataitem_062_185_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/* I062/245 Target Identification: target identification (AstTargetId). */
+KOVREL_API void ast_dataitem_062_245_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/* I062/REF and I062/SPF: reserved expansion and special purpose fields (AstExplicitField), no detail view. */
+KOVREL_API void ast_dataitem_062_REF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+KOVREL_API void ast_dataitem_062_SPF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
 /* I062/110 Mode 5 Data reports & Extended Mode 1 Code (compound): SUM, PMN, POS, GA, EM1, TOS, XP. */
 KOVREL_API uint64_t ast_dataitem_062_110_get_size(const uint8_t *octets, size_t available);
 KOVREL_API uint64_t ast_subfield_062_110_get_size(const uint8_t *octets, size_t available, uint32_t subfield_id);

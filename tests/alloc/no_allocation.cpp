@@ -65,6 +65,13 @@ std::vector<uint8_t> recording() {
                                        0x0A, 0x3F, 0x01, 0x40, 0xE0, 0x1A, 0x08, 0xB5, 0x3C, 0x66, 0x01, 0x20,
                                        0xC3, 0x1C, 0x76, 0x08, 0x20, 0x0F, 0x01, 0x07, 0xD0, 0x40, 0x00, 0x40};
     for (int k = 0; k < 50; ++k) add_block(s, 48, std::vector<std::vector<uint8_t>>(20, plot));
+    // The same plot with I048/250 carrying BDS 4,0 and 6,0.
+    std::vector<uint8_t> mode_s = plot;
+    mode_s[1] = 0xF6;
+    const uint8_t mb[] = {0x02, 0x85, 0xE0, 0x00, 0x17, 0x3C, 0x00, 0x00, 0x40,
+                          0xA1, 0x2C, 0x43, 0x55, 0x3F, 0x81, 0x00, 0x60};
+    mode_s.insert(mode_s.begin() + 29, mb, mb + sizeof mb);
+    add_block(s, 48, {mode_s, mode_s});
     // CAT034 north marker: I034/010, 000, 030.
     add_block(s, 34, {{0xE0, 0x19, 0x0D, 0x01, 0x35, 0x6B, 0x01}});
     // CAT021 edition 2.1 only: I021/010 and I021/008.
@@ -82,6 +89,8 @@ AstDataBlock g_block;
 AstDataBlock g_rewritten;
 char g_text[1 << 15];
 uint8_t g_buffer[1 << 16];
+alignas(16) uint8_t g_storage[1 << 14];
+uint8_t g_encoded[1 << 12];
 
 size_t exercise(const std::vector<uint8_t> &s) {
     size_t records = 0;
@@ -100,6 +109,13 @@ size_t exercise(const std::vector<uint8_t> &s) {
                 ast_dataitem_get_hex_str(g_text, sizeof g_text, &item);
                 ast_dataitem_get_bin_html(g_text, sizeof g_text, &item);
                 (void)ast_dataitem_get_name(item.id);
+                // Structured decode, and encode of what was decoded.
+                AstDataItemValue value;
+                ast_dataitem_decode(&value, g_storage, sizeof g_storage, &item);
+                if (value.value) {
+                    AstDataItem written;
+                    ast_dataitem_encode(&written, g_encoded, sizeof g_encoded, &value);
+                }
             }
             ast_datarecord_get_detail_html(g_text, sizeof g_text, &record);
             AstDataSourceIdentifier sacsic;

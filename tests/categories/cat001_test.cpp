@@ -1,16 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "kovrel/cat001.h"
 #include "kovrel/core.h"
+#include "kovrel/datarecord.h"
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
 #include "support/record_walk.h"
+#include "support/served.h"
 
+using kovrel_test::expect_served;
 using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 
@@ -195,4 +199,42 @@ TEST(Cat001, SensorProfileRecords) {
     EXPECT_EQ(walk(AST_UAP_MANAGAIR, 1, managair, &consumed),
               (std::vector<Scanned>{{1010, 2}, {1951, 2}, {1200, 4}}));
     EXPECT_EQ(consumed, managair.size());
+}
+
+
+namespace {
+
+}  // namespace
+
+TEST(Cat001, CommonItemsOfATrack) {
+    // FSPEC; 010; 161; 200; 070; 090; 130 of two octets; 050; 080; 100; 060; SPF; RFS.
+    const Octets track = {0xa7, 0xa1, 0xf6, 0x08, 0x11, 0xf1, 0x23, 0x04, 0x00, 0x20, 0x00, 0x4f, 0xff,
+                          0x01, 0x40, 0x41, 0x20, 0xa1, 0x23, 0x00, 0x01, 0x84, 0x40, 0x00, 0x00, 0x08, 0x00,
+                          0x02, 0xff, 0x02, 0x00};
+    AstDataRecord r;
+    ast_datarecord_decode(&r, track.data(), track.size(), 1, &AST_UAP_STANDARD);
+    ASSERT_EQ(r.valid, 1);
+    // No CAT001 item has a structured encoder.
+    expect_served(r, {{1010, "SAC:008 SIC:017", 0x7, sizeof(AstDataSourceIdentifier)},
+                      {1161, "TRACK_NUM:61731", 0x3, sizeof(AstTrackNumber)},  // 16 bits, no detail view
+                      {1200, "SPD:225.00 HDG:45.00", 0x7, sizeof(AstVelocityPolar)},
+                      {1070, "MODE_3/A:7777 GARBLED", 0x7, sizeof(AstMode3aCode)},
+                      {1090, "MODE_C:0080", 0x7, sizeof(AstModeCCode)},
+                      {1130, "BIN:01000001 00100000", 0x2, 0},
+                      {1050, "MODE_2:0443 NOT_VALIDATED SMOOTHED", 0x7, sizeof(AstMode3aCode)},
+                      {1080, "QTY:ABCd", 0x7, sizeof(AstMode3aConfidence)},
+                      {1100, "CODE:5000 QTY:ABCD NOT_VALIDATED", 0x7, sizeof(AstModeCConfidence)},
+                      {1060, "QTY:aBCD", 0x7, sizeof(AstMode3aConfidence)},
+                      {1999, "SPECIAL_PURPOSE", 0x3, sizeof(AstSpecialPurposeField)},
+                      {1997, "RANDOM_FIELD_SEQUENCING", 0x3, sizeof(AstRandomFieldSequencing)}});
+
+    AstTrackNumber number;
+    AstDataItemValue v;
+    ast_dataitem_decode(&v, &number, sizeof number, &r.items[1]);
+    EXPECT_EQ(number.number, 0xf123u);
+    EXPECT_EQ(number.twelve_bit, 0);
+    AstMode3aCode mode2;
+    ast_dataitem_decode(&v, &mode2, sizeof mode2, &r.items[6]);
+    EXPECT_EQ(mode2.code, 0443u);
+    EXPECT_EQ(mode2.v + mode2.g + mode2.l, 2);
 }

@@ -1,16 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "kovrel/cat002.h"
 #include "kovrel/core.h"
+#include "kovrel/datarecord.h"
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
 #include "support/record_walk.h"
+#include "support/served.h"
 
+using kovrel_test::expect_served;
 using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 
@@ -118,4 +122,43 @@ TEST(Cat002, SensorProfileRecords) {
     const Octets managair = {0x81, 0x01, 0x01, 0x40, 0x08, 0x11, 0xca, 0xfe};
     EXPECT_EQ(walk(AST_UAP_MANAGAIR, 2, managair, &consumed), (std::vector<Scanned>{{2010, 2}, {2951, 2}}));
     EXPECT_EQ(consumed, managair.size());
+}
+
+
+namespace {
+
+}  // namespace
+
+TEST(Cat002, CommonItemsOfASectorCrossing) {
+    // FSPEC; 010; 000; 020; 030; 041; 050 of two octets; SPF; RFS.
+    const Octets sector = {0xfd, 0x06, 0x08, 0x11, 0x02, 0x20, 0x58, 0x78, 0x65,
+                           0x02, 0x80, 0x41, 0x80, 0x02, 0xff, 0x02, 0x00};
+    AstDataRecord r;
+    ast_datarecord_decode(&r, sector.data(), sector.size(), 2, &AST_UAP_STANDARD);
+    ASSERT_EQ(r.valid, 1);
+    expect_served(r, {{2010, "SAC:008 SIC:017", 0xf, sizeof(AstDataSourceIdentifier)},
+                      {2000, "MSG_TYPE:SECTOR_CROSSING", 0xb, sizeof(AstMessageType)},  // no detail view
+                      {2020, "SECTOR:045DEG", 0xf, sizeof(AstSectorNumber)},
+                      {2030, "TOD:12:34:56.789", 0xf, sizeof(AstTimeOfDay)},
+                      {2041, "ROT:5.00", 0xf, sizeof(AstAntennaRotationPeriod)},
+                      {2050, "BIN:01000001 10000000", 0x2, 0},
+                      {2999, "SPECIAL_PURPOSE", 0x3, sizeof(AstSpecialPurposeField)},
+                      {2997, "RANDOM_FIELD_SEQUENCING", 0x3, sizeof(AstRandomFieldSequencing)}});
+
+    // The message type texts of CAT002, for I002/000 spans only.
+    const struct {
+        uint8_t value;
+        const char *text;
+    } cases[] = {{1, "MSG_TYPE:NORTH_MARKER"},    {2, "MSG_TYPE:SECTOR_CROSSING"}, {3, "MSG_TYPE:SOUTH_MARKER"},
+                 {4, "MSG_TYPE:UNDEFINED"},       {7, "MSG_TYPE:UNDEFINED"},       {8, "MSG_TYPE:BLIND_ZONE_START"},
+                 {9, "MSG_TYPE:BLIND_ZONE_STOP"}, {128, "MSG_TYPE:STATUS"},        {0, "MSG_TYPE:UNDEFINED"}};
+    char text[32];
+    for (const auto &c : cases) {
+        const AstDataItem item = {&c.value, 1, 2000, 1};
+        ast_dataitem_002_000_get_summary(text, sizeof text, &item);
+        EXPECT_STREQ(text, c.text) << int(c.value);
+    }
+    const AstDataItem other = {sector.data() + 4, 1, 34000, 1};
+    ast_dataitem_002_000_get_summary(text, sizeof text, &other);
+    EXPECT_STREQ(text, "");
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -8,10 +9,16 @@
 #include "kovrel/core.h"
 #include "kovrel/datarecord.h"
 #include "kovrel/fspec.h"
+#include "kovrel/items.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
 #include "support/record_walk.h"
+#include "support/served.h"
 
+using kovrel_test::expect_row;
+using kovrel_test::kShown;
+using kovrel_test::kCodec;
+using kovrel_test::kDecodeSummary;
 using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 using kovrel_test::Scanned;
@@ -32,6 +39,13 @@ std::string summary(AstItemId id, const Octets &o) {
     ast_dataitem_get_summary(text, sizeof text, &item);
     return text;
 }
+
+AstDataItem scanned(AstItemId id, const Octets &o) {
+    AstDataItem item;
+    ast_dataitem_scan(&item, o.data(), o.size(), id);
+    return item;
+}
+
 
 }  // namespace
 
@@ -207,4 +221,26 @@ TEST(Cat004, UnnamedUapItemsAreSized) {
     EXPECT_EQ(log.size(), 0u);
     EXPECT_STREQ(ast_dataitem_get_name(4070), "Unknown CAT004 Dataitem");
     EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Unknown dataitem name: I004/070."));
+}
+
+TEST(Cat004, CommonItemsServeTheirRows) {
+    LogCapture log;
+    const Octets first = {0xF1, 0x23};
+    expect_row(4000, {0x07}, nullptr, kCodec);  // the category summarises the message type
+    expect_row(4010, {0x12, 0x34}, "SAC:018 SIC:052", kShown | kCodec);
+    expect_row(4020, {0x54, 0x60, 0x00}, "TOD:12:00:00.000", kShown | kCodec);
+    expect_row(4030, first, "TRACK_NUM:61731", kDecodeSummary | kCodec);  // all 16 bits
+    expect_row(4035, {0x00, 0x05}, "TRACK_NUM:0005", kDecodeSummary | kCodec);
+    expect_row(4998, {0x03, 0xAA, 0xBB}, "RESERVED_EXPANSION", kDecodeSummary);
+    expect_row(4999, {0x01}, "SPECIAL_PURPOSE", kDecodeSummary);
+
+    const AstDataItem item = scanned(4030, first);
+    AstTrackNumber track{};
+    AstDataItemValue value;
+    ast_dataitem_decode(&value, &track, sizeof track - 1, &item);
+    EXPECT_EQ(value.valid + track.valid, 0u);
+    ast_dataitem_decode(&value, &track, sizeof track, &item);
+    EXPECT_EQ(value.value, &track);
+    EXPECT_EQ(track.number, 0xF123u);
+    EXPECT_EQ(log.size(), 0u);
 }

@@ -1,12 +1,17 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "kovrel/cat021.h"
+#include "kovrel/datarecord.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 
 using kovrel_test::LogCapture;
+using kovrel_test::Octets;
 
 namespace {
 
@@ -239,7 +244,142 @@ TEST(Cat021, Edition21RecordScansBackToBack) {
     }
     EXPECT_EQ(pos, record.size());
 
-    // Compound items have the generic subfield views, elementary ones nothing yet.
+    // Compound items have the generic subfield views; items laid out as a
+    // common item have its views and entry points; the category's own
+    // elementary items nothing yet.
     EXPECT_EQ(ast_dataitem_get_capabilities(21295), AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL);
-    EXPECT_EQ(ast_dataitem_get_capabilities(21010), 0u);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21010), AST_DATAITEM_CAP_DECODE | AST_DATAITEM_CAP_SUMMARY |
+                                                        AST_DATAITEM_CAP_DETAIL | AST_DATAITEM_CAP_ENCODE);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21040), 0u);
+}
+
+namespace {
+
+// Every item of one CAT021 record with its summary, in record order.
+std::vector<std::pair<AstItemId, std::string>> summaries(const AstUap &uap, const Octets &record) {
+    AstDataRecord r;
+    ast_datarecord_decode(&r, record.data(), record.size(), 21, &uap);
+    EXPECT_EQ(r.valid, 1);
+    EXPECT_EQ(r.length, record.size());
+    std::vector<std::pair<AstItemId, std::string>> out;
+    for (uint64_t i = 0; i < r.item_count; ++i) {
+        char text[64];
+        ast_dataitem_get_summary(text, sizeof text, &r.items[i]);
+        out.emplace_back(r.items[i].id, text);
+    }
+    return out;
+}
+
+const Octets kKlm1023 = {0x2C, 0xC3, 0x71, 0xC3, 0x2C, 0xE0};
+
+}  // namespace
+
+TEST(Cat021, CommonItemsSummariseRecordsOfBothGenerations) {
+    // Edition 0.26: FRNs 1, 3, 4, 5, 14, 18, 27.
+    Octets v026 = {0xB9, 0x03, 0x11, 0x04, 0x19, 0x32, 0x58, 0x78, 0x40,  // FSPEC, 010, 030
+                   0x00, 0x80, 0x00, 0x00, 0x00, 0x20, 0x00, 0x00,        // 902: 45N 11.25E at 180/2^25
+                   0x3C, 0x65, 0x86, 0xFF, 0x40};                         // 080, 909
+    v026.insert(v026.end(), kKlm1023.begin(), kKlm1023.end());            // 170
+    v026.insert(v026.end(), {0x02, 0x9C});                                // 070
+    const std::vector<std::pair<AstItemId, std::string>> old_items = {
+        {21010, "SAC:025 SIC:050"}, {21030, "TOD:12:34:56.500"}, {21902, "WGS84:450000N0111500E"},
+        {21080, "ADDR:3C6586"},     {21909, "VR:-1200.00FT/M"},  {21170, "ACID:KLM1023 "},
+        {21070, "MODE_3/A:1234"}};
+    EXPECT_EQ(summaries(AST_UAP_CAT021_VER026, v026), old_items);
+
+    // Edition 2.1: FRNs 1-5, 7, 11, 13, 24, 28, 39, 48. The rate carries
+    // the range-exceeded bit, so 7F 40 is a descent.
+    const Octets v21 = {0xFB, 0x15, 0x01, 0x23, 0x01, 0x11, 0x04,              // FSPEC
+                        0x19, 0x32, 0x20, 0x01, 0x23, 0x07, 0x38, 0x40, 0x00,  // 010, 040, 161, 015, 071
+                        0x10, 0x00, 0x00, 0x00, 0x02, 0x00, 0x00, 0x00,        // 131: 45N 5.625E at 180/2^30
+                        0x3C, 0x65, 0x86, 0x20, 0x00, 0x00, 0x00,              // 080, 074
+                        0x7F, 0x40, 0x38, 0x40, 0x20,                          // 155, 077
+                        0x01, 0x80, 0, 0, 0, 0, 0, 0, 0x40,                    // 250
+                        0x03, 0xAB, 0xCD};                                     // RE
+    const std::vector<std::pair<AstItemId, std::string>> new_items = {
+        {21010, "SAC:025 SIC:050"},       {21040, "NOT_IMPLEMENTED"},       {21161, "TRACK_NUM:0291"},
+        {21015, "SVC_ID:007"},            {21071, "TOD:08:00:00.000"},      {21131, "WGS84:450000N0053730E"},
+        {21080, "ADDR:3C6586"},           {21074, "FSI:0 TOMR:0.500000"},   {21155, "VR:-1200.00FT/M"},
+        {21077, "TOD:08:00:00.250"},      {21250, "BDS:4,0"},               {21998, "RESERVED_EXPANSION"}};
+    EXPECT_EQ(summaries(AST_UAP_CAT021_VER21, v21), new_items);
+
+    // Encoders only where the common item writes; an empty detail slot
+    // where it has no view.
+    constexpr uint32_t kAll =
+        AST_DATAITEM_CAP_DECODE | AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL | AST_DATAITEM_CAP_ENCODE;
+    for (AstItemId id : {21030u, 21070u, 21080u, 21130u, 21131u, 21157u, 21170u, 21902u, 21910u}) {
+        EXPECT_EQ(ast_dataitem_get_capabilities(id), kAll) << id;
+    }
+    EXPECT_EQ(ast_dataitem_get_capabilities(21076), kAll & ~AST_DATAITEM_CAP_ENCODE);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21250), kAll & ~AST_DATAITEM_CAP_ENCODE);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21161), kAll & ~AST_DATAITEM_CAP_DETAIL);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21015), kAll & ~AST_DATAITEM_CAP_DETAIL);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21999), AST_DATAITEM_CAP_DECODE | AST_DATAITEM_CAP_SUMMARY);
+    AstDataItemFuncs funcs;
+    ast_dataitem_get_func(&funcs, 21161);
+    EXPECT_EQ(funcs.get_detail_html, ast_dataitem_get_detail_html_dummy);
+}
+
+TEST(Cat021, CommonItemsDecodeAndEncodeThroughTheDispatcher) {
+    alignas(std::max_align_t) uint8_t storage[sizeof(AstModesMb)];
+    AstDataItemValue value;
+    AstDataItem item;
+    const Octets high = {0x10, 0x00, 0x00, 0x00, 0x02, 0x00, 0x00, 0x00};
+    ast_dataitem_scan(&item, high.data(), high.size(), 21131);
+    ast_dataitem_decode(&value, storage, sizeof(AstPositionWgs84) - 1, &item);
+    EXPECT_EQ(value.valid, 0);
+    EXPECT_EQ(value.id, 21131u);
+    EXPECT_EQ(value.value, nullptr);
+    ast_dataitem_decode(&value, storage, sizeof(AstPositionWgs84), &item);
+    ASSERT_EQ(value.valid, 1);
+    ASSERT_EQ(value.value, storage);
+    const AstPositionWgs84 pos = *static_cast<const AstPositionWgs84 *>(value.value);
+    EXPECT_EQ(pos.lat_lsb, 180.0 / 1073741824.0);
+    EXPECT_EQ(pos.latitude, 45.0);
+    EXPECT_EQ(pos.longitude, 5.625);
+    // Written back at 180/2^25, as every 8-octet position.
+    uint8_t out[16];
+    AstDataItem written;
+    ast_dataitem_encode(&written, out, sizeof out, &value);
+    ASSERT_EQ(written.valid, 1);
+    EXPECT_EQ(Octets(out, out + written.length), (Octets{0x00, 0x80, 0x00, 0x00, 0x00, 0x10, 0x00, 0x00}));
+    // The same octets as the position of edition 0.26 keep the coarser LSB.
+    ast_dataitem_scan(&item, high.data(), high.size(), 21902);
+    ast_dataitem_decode(&value, storage, sizeof storage, &item);
+    ASSERT_EQ(value.valid, 1);
+    EXPECT_EQ(static_cast<const AstPositionWgs84 *>(value.value)->latitude, 1440.0);
+
+    // The rate of edition 0.26 has no range-exceeded bit.
+    const Octets rate = {0xFF, 0x40};
+    for (AstItemId id : {21909u, 21155u}) {
+        ast_dataitem_scan(&item, rate.data(), rate.size(), id);
+        ast_dataitem_decode(&value, storage, sizeof storage, &item);
+        ASSERT_EQ(value.valid, 1) << id;
+        const auto *vr = static_cast<const AstVerticalRate *>(value.value);
+        EXPECT_EQ(vr->re, id == 21155u ? 1 : 0) << id;
+        EXPECT_EQ(vr->value, -1200.0) << id;
+    }
+
+    // Decoded and written again, each encodable item gives back its octets.
+    const std::vector<std::pair<AstItemId, Octets>> items = {
+        {21010, {0x19, 0x32}}, {21015, {0x07}},             {21077, {0x38, 0x40, 0x20}},
+        {21070, {0x42, 0x9C}}, {21080, {0x3C, 0x65, 0x86}}, {21161, {0x01, 0x23}},
+        {21170, kKlm1023},     {21157, {0x80, 0xC0}},       {21910, {0xFF, 0x40}},
+        {21130, {0x20, 0x00, 0x00, 0x04, 0x00, 0x00}}};
+    for (const auto &[id, octets] : items) {
+        ast_dataitem_scan(&item, octets.data(), octets.size(), id);
+        ast_dataitem_decode(&value, storage, sizeof storage, &item);
+        ASSERT_EQ(value.valid, 1) << id;
+        ast_dataitem_encode(&written, out, sizeof out, &value);
+        ASSERT_EQ(written.valid, 1) << id;
+        EXPECT_EQ(written.id, id);
+        EXPECT_EQ(Octets(out, out + written.length), octets) << id;
+    }
+
+    // The special purpose field decodes as its own field, behind the length octet.
+    const Octets sp = {0x03, 0xAB, 0xCD};
+    ast_dataitem_scan(&item, sp.data(), sp.size(), 21999);
+    ast_dataitem_decode(&value, storage, sizeof storage, &item);
+    ASSERT_EQ(value.valid, 1);
+    EXPECT_EQ(static_cast<const AstSpecialPurposeField *>(value.value)->length, 2u);
 }

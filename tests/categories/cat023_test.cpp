@@ -10,7 +10,9 @@
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
 #include "support/record_walk.h"
+#include "support/served.h"
 
+using kovrel_test::expect_row;
 using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 using kovrel_test::Scanned;
@@ -109,5 +111,16 @@ TEST(Cat023, WholeRecordScansBackToBack) {
     size_t consumed = 0;
     EXPECT_EQ(walk(AST_UAP_STANDARD, 23, record, &consumed), expected);
     EXPECT_EQ(consumed, record.size());
+    EXPECT_EQ(log.size(), 0u);
+}
+
+TEST(Cat023, CommonItemsServeTheirRows) {
+    LogCapture log;
+    // Shown through the common items, without structured decode or encode.
+    const uint32_t shown = AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL;
+    expect_row(23010, {0x19, 0x0C}, "SAC:025 SIC:012", shown);
+    expect_row(23070, {0xA8, 0xBF, 0xFF}, "TOD:23:59:59.992", shown);
+    expect_row(23998, {0x02, 0xAA}, "RESERVED_EXPANSION", AST_DATAITEM_CAP_SUMMARY);
+    expect_row(23999, {0x01}, "SPECIAL_PURPOSE", AST_DATAITEM_CAP_SUMMARY);
     EXPECT_EQ(log.size(), 0u);
 }

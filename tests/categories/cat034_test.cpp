@@ -1,16 +1,20 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
 #include "kovrel/cat034.h"
 #include "kovrel/core.h"
+#include "kovrel/datarecord.h"
 #include "kovrel/fspec.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
 #include "support/record_walk.h"
+#include "support/served.h"
 
+using kovrel_test::expect_served;
 using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 
@@ -195,4 +199,38 @@ TEST(Cat034, RecordsScannedBackToBack) {
     const Octets polar_window = {0x81, 0x40, 0x19, 0x0d, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00};
     EXPECT_EQ(walk(AST_UAP_STANDARD, 34, polar_window, &consumed), (std::vector<Scanned>{{34010, 2}}));
     EXPECT_EQ(consumed, 0u);
+}
+
+
+namespace {
+
+}  // namespace
+
+TEST(Cat034, CommonItemsOfANorthMarker) {
+    // FSPEC; 010; 000; 030; 020; 041; REF; SPF.
+    const Octets north = {0xf9, 0x06, 0x19, 0x0d, 0x01, 0x58, 0x78, 0x65, 0x40,
+                          0x02, 0x00, 0x02, 0x00, 0x03, 0xab, 0xcd};
+    AstDataRecord r;
+    ast_datarecord_decode(&r, north.data(), north.size(), 34, &AST_UAP_STANDARD);
+    ASSERT_EQ(r.valid, 1);
+    expect_served(r, {{34010, "SAC:025 SIC:013", 0xf, sizeof(AstDataSourceIdentifier)},
+                      {34000, "MSG_TYPE:NORTH_MARKER", 0xb, sizeof(AstMessageType)},  // no detail view
+                      {34030, "TOD:12:34:56.789", 0xf, sizeof(AstTimeOfDay)},
+                      {34020, "SECTOR:090DEG", 0xf, sizeof(AstSectorNumber)},
+                      {34041, "ROT:4.00", 0xf, sizeof(AstAntennaRotationPeriod)},
+                      {34998, "RESERVED_EXPANSION", 0x3, sizeof(AstReservedExpansionField)},
+                      {34999, "SPECIAL_PURPOSE", 0x3, sizeof(AstSpecialPurposeField)}});
+
+    // The message type texts of CAT034, for I034/000 spans only.
+    const char *const texts[] = {"MSG_TYPE:UNDEFINED",     "MSG_TYPE:NORTH_MARKER",   "MSG_TYPE:SECTOR_CROSSING",
+                                 "MSG_TYPE:GEO_FILTERING", "MSG_TYPE:JAMMING_STROBE", "MSG_TYPE:UNDEFINED"};
+    char text[32];
+    for (uint8_t value = 0; value < 6; ++value) {
+        const AstDataItem item = {&value, 1, 34000, 1};
+        ast_dataitem_034_000_get_summary(text, sizeof text, &item);
+        EXPECT_STREQ(text, texts[value]) << int(value);
+    }
+    const AstDataItem other = {north.data() + 4, 1, 2000, 1};
+    ast_dataitem_034_000_get_summary(text, sizeof text, &other);
+    EXPECT_STREQ(text, "");
 }

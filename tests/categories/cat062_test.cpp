@@ -1,13 +1,24 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "kovrel/cat062.h"
+#include "kovrel/core.h"
+#include "kovrel/items.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
+#include "support/served.h"
 
+using kovrel_test::expect_row;
+using kovrel_test::kShown;
+using kovrel_test::kCodec;
+using kovrel_test::kDecodeSummary;
 using kovrel_test::LogCapture;
+using kovrel_test::Octets;
 
 namespace {
 
@@ -24,6 +35,13 @@ std::vector<uint8_t> with_octets(std::vector<uint8_t> head, size_t n, uint8_t fi
     head.resize(head.size() + n, fill);
     return head;
 }
+
+AstDataItem scanned(AstItemId id, const Octets &o) {
+    AstDataItem item;
+    ast_dataitem_scan(&item, o.data(), o.size(), id);
+    return item;
+}
+
 
 }  // namespace
 
@@ -206,4 +224,37 @@ TEST(Cat062, TrackRecordScansBackToBack) {
         pos += item.length;
     }
     EXPECT_EQ(pos, record.size());
+}
+
+TEST(Cat062, CommonItemsServeTheirRows) {
+    LogCapture log;
+    const Octets wgs84 = {0x00, 0x80, 0x00, 0x00, 0xFF, 0xC0, 0x00, 0x00};  // 45N 22.5W
+    expect_row(62010, {0x19, 0x0C}, "SAC:025 SIC:012", kShown | kCodec);
+    expect_row(62015, {0x04}, "SVC_ID:004", kDecodeSummary | kCodec);
+    expect_row(62040, {0xF1, 0x23}, "TRACK_NUM:61731", kDecodeSummary | kCodec);  // all 16 bits
+    expect_row(62060, {0x2A, 0x3F}, "MODE_3/A:5077 CHANGED", kShown | kCodec);
+    expect_row(62070, {0xA8, 0xBF, 0xFF}, "TOD:23:59:59.992", kShown | kCodec);
+    expect_row(62100, {0x00, 0x10, 0x00, 0xFF, 0xF0, 0x00}, "X:2048.0 Y:-2048.0 LSB:M", kDecodeSummary);
+    expect_row(62105, wgs84, "WGS84:450000N0223000W", kShown | AST_DATAITEM_CAP_DECODE);
+    expect_row(62120, {0xE1, 0x23}, "MODE_2:0443", kShown | kCodec);  // V, G and bit 6 set, not shown
+    expect_row(62185, {0x00, 0x64, 0xFF, 0x9C}, "VX:25.00 VY:-25.00 LSB:M/S", kDecodeSummary);
+    expect_row(62245, {0x80, 0x2C, 0xC3, 0x71, 0xCB, 0x38, 0x20}, "CALLSIGN:KLM123  ",
+               kShown | AST_DATAITEM_CAP_DECODE);
+    expect_row(62998, {0x03, 0xAA, 0xBB}, "RESERVED_EXPANSION", kDecodeSummary);
+    expect_row(62999, {0x01}, "SPECIAL_PURPOSE", kDecodeSummary);
+
+    const bool negate = ast_library_test_option(AST_OPTION_I062_105_NEGATE_WEST_LONGITUDE);
+    ast_library_set_option(AST_OPTION_I062_105_NEGATE_WEST_LONGITUDE);
+    expect_row(62105, wgs84, "WGS84:450000N0223000E", kShown | AST_DATAITEM_CAP_DECODE);
+    if (!negate) ast_library_unset_option(AST_OPTION_I062_105_NEGATE_WEST_LONGITUDE);
+
+    const AstDataItem item = scanned(62105, wgs84);
+    AstPositionWgs84 pos{};
+    AstDataItemValue value;
+    ast_dataitem_decode(&value, &pos, sizeof pos - 1, &item);
+    EXPECT_EQ(value.valid + pos.valid, 0u);
+    ast_dataitem_decode(&value, &pos, sizeof pos, &item);
+    EXPECT_EQ(value.value, &pos);
+    EXPECT_DOUBLE_EQ(pos.longitude, -22.5);
+    EXPECT_EQ(log.size(), 0u);
 }

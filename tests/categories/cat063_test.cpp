@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -7,14 +8,31 @@
 #include "kovrel/cat063.h"
 #include "kovrel/core.h"
 #include "kovrel/fspec.h"
+#include "kovrel/items.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
 #include "support/record_walk.h"
+#include "support/served.h"
 
+using kovrel_test::expect_row;
+using kovrel_test::kShown;
+using kovrel_test::kCodec;
+using kovrel_test::kDecodeSummary;
 using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 using kovrel_test::Scanned;
 using kovrel_test::walk;
+
+namespace {
+
+AstDataItem scanned(AstItemId id, const Octets &o) {
+    AstDataItem item;
+    ast_dataitem_scan(&item, o.data(), o.size(), id);
+    return item;
+}
+
+
+}  // namespace
 
 TEST(Cat063, NamesWithASilentFallback) {
     LogCapture log;
@@ -59,5 +77,26 @@ TEST(Cat063, WholeRecordScansBackToBack) {
     const Octets open = {0x81, 0x09};
     EXPECT_EQ(ast_dataitem_get_size(open.data(), open.size(), 63060), 0u);
     EXPECT_EQ(ast_dataitem_get_size(open.data(), 1, 63080), 0u);
+    EXPECT_EQ(log.size(), 0u);
+}
+
+TEST(Cat063, CommonItemsServeTheirRows) {
+    LogCapture log;
+    const Octets sensor = {0x03, 0x04};
+    expect_row(63010, {0x01, 0x02}, "SAC:001 SIC:002", kShown | kCodec);
+    expect_row(63015, {0x07}, "SVC_ID:007", kDecodeSummary | kCodec);
+    expect_row(63030, {0x00, 0x10, 0x00}, "TOD:00:00:32.000", kShown | kCodec);
+    expect_row(63050, sensor, "SAC:003 SIC:004", kShown | kCodec);
+    expect_row(63998, {0x02, 0xAA}, "RESERVED_EXPANSION", kDecodeSummary);
+    expect_row(63999, {0x01}, "SPECIAL_PURPOSE", kDecodeSummary);
+
+    const AstDataItem item = scanned(63050, sensor);
+    AstDataSourceIdentifier dsi{};
+    AstDataItemValue value;
+    ast_dataitem_decode(&value, &dsi, sizeof dsi - 1, &item);
+    EXPECT_EQ(value.valid + dsi.valid, 0u);
+    ast_dataitem_decode(&value, &dsi, sizeof dsi, &item);
+    EXPECT_EQ(value.value, &dsi);
+    EXPECT_EQ(dsi.sic, 4u);
     EXPECT_EQ(log.size(), 0u);
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -7,14 +8,31 @@
 #include "kovrel/cat065.h"
 #include "kovrel/core.h"
 #include "kovrel/fspec.h"
+#include "kovrel/items.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
 #include "support/record_walk.h"
+#include "support/served.h"
 
+using kovrel_test::expect_row;
+using kovrel_test::kShown;
+using kovrel_test::kCodec;
+using kovrel_test::kDecodeSummary;
 using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 using kovrel_test::Scanned;
 using kovrel_test::walk;
+
+namespace {
+
+AstDataItem scanned(AstItemId id, const Octets &o) {
+    AstDataItem item;
+    ast_dataitem_scan(&item, o.data(), o.size(), id);
+    return item;
+}
+
+
+}  // namespace
 
 TEST(Cat065, NamesWithASilentFallback) {
     LogCapture log;
@@ -54,5 +72,26 @@ TEST(Cat065, WholeRecordScansBackToBack) {
     AstDataItem cut;
     ast_dataitem_scan(&cut, record.data() + 6, 2, 65030);
     EXPECT_EQ(cut.valid, 0);
+    EXPECT_EQ(log.size(), 0u);
+}
+
+TEST(Cat065, CommonItemsServeTheirRows) {
+    LogCapture log;
+    const Octets end_of_batch = {0x02};
+    expect_row(65000, end_of_batch, nullptr, kCodec);  // the category summarises it; no view
+    expect_row(65010, {0x01, 0x02}, "SAC:001 SIC:002", kShown | kCodec);
+    expect_row(65015, {0x11}, "SVC_ID:017", kDecodeSummary | kCodec);
+    expect_row(65030, {0x00, 0x20, 0x00}, "TOD:00:01:04.000", kShown | kCodec);
+    expect_row(65998, {0x03, 0x01, 0x02}, "RESERVED_EXPANSION", kDecodeSummary);
+    expect_row(65999, {0x02, 0x09}, "SPECIAL_PURPOSE", kDecodeSummary);
+
+    const AstDataItem item = scanned(65000, end_of_batch);
+    AstMessageType type{};
+    AstDataItemValue value;
+    ast_dataitem_decode(&value, &type, sizeof type - 1, &item);
+    EXPECT_EQ(value.valid + type.valid, 0u);
+    ast_dataitem_decode(&value, &type, sizeof type, &item);
+    EXPECT_EQ(value.value, &type);
+    EXPECT_EQ(type.value, 2u);
     EXPECT_EQ(log.size(), 0u);
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -7,9 +8,15 @@
 #include "kovrel/cat240.h"
 #include "kovrel/core.h"
 #include "kovrel/fspec.h"
+#include "kovrel/items.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/served.h"
 
+using kovrel_test::expect_row;
+using kovrel_test::kShown;
+using kovrel_test::kCodec;
+using kovrel_test::kDecodeSummary;
 using kovrel_test::LogCapture;
 using Octets = std::vector<uint8_t>;
 using Items = std::vector<std::pair<AstItemId, uint64_t>>;
@@ -17,6 +24,13 @@ using Items = std::vector<std::pair<AstItemId, uint64_t>>;
 namespace {
 
 uint64_t size_of(AstItemId id, const Octets &o) { return ast_dataitem_get_size(o.data(), o.size(), id); }
+
+AstDataItem scanned(AstItemId id, const Octets &o) {
+    AstDataItem item;
+    ast_dataitem_scan(&item, o.data(), o.size(), id);
+    return item;
+}
+
 
 // Scans the items of a CAT240 record in FRN order; `consumed` is where the
 // last delimited item ended.
@@ -116,5 +130,25 @@ TEST(Cat240, WholeRecordsScanBackToBack) {
     const Octets summary = {0x50, 0x01, 0x04, 'S', 'C', 'A', 'N'};  // I240/000, I240/030
     EXPECT_EQ(walk(summary, &consumed), (Items{{240000, 1}, {240030, 5}}));
     EXPECT_EQ(consumed, summary.size());
+    EXPECT_EQ(log.size(), 0u);
+}
+
+TEST(Cat240, CommonItemsServeTheirRows) {
+    LogCapture log;
+    const Octets video = {0x02};
+    expect_row(240000, video, nullptr, kCodec);  // the category summarises it; no view
+    expect_row(240010, {0x07, 0x01}, "SAC:007 SIC:001", kShown | kCodec);
+    expect_row(240140, {0x00, 0x10, 0x00}, "TOD:00:00:32.000", kShown | kCodec);
+    expect_row(240998, {0x02, 0x00}, "RESERVED_EXPANSION", kDecodeSummary);
+    expect_row(240999, {0x01}, "SPECIAL_PURPOSE", kDecodeSummary);
+
+    const AstDataItem item = scanned(240000, video);
+    AstMessageType type{};
+    AstDataItemValue value;
+    ast_dataitem_decode(&value, &type, sizeof type - 1, &item);
+    EXPECT_EQ(value.valid + type.valid, 0u);
+    ast_dataitem_decode(&value, &type, sizeof type, &item);
+    EXPECT_EQ(value.value, &type);
+    EXPECT_EQ(type.value, 2u);
     EXPECT_EQ(log.size(), 0u);
 }

@@ -134,8 +134,15 @@ TEST(DataItem, TextViews) {
     ast_dataitem_get_hex_html(b, sizeof b, &item);
     EXPECT_STREQ(b, "");
 
-    // No summary function yet: the placeholder text, cut to the buffer.
+    // The item's own summary, cut to the buffer.
     item.valid = 1;
+    ast_dataitem_get_summary(b, sizeof b, &item);
+    EXPECT_STREQ(b, "ADDR:30000C");
+    ast_dataitem_get_summary(b, 4, &item);
+    EXPECT_STREQ(b, "ADD");
+    // I034/090 is sized and named only: the placeholder text and no view.
+    item.id = 34090;
+    item.length = 2;
     ast_dataitem_get_summary(b, sizeof b, &item);
     EXPECT_STREQ(b, "NOT_IMPLEMENTED");
     ast_dataitem_get_summary(b, 4, &item);
@@ -143,7 +150,7 @@ TEST(DataItem, TextViews) {
     std::strcpy(b, "x");
     ast_dataitem_get_detail_html(b, sizeof b, &item);
     EXPECT_STREQ(b, "");
-
+    item.id = 48220;
     item.length = 17;
     const uint8_t many[17] = {};
     item.data = many;

@@ -159,7 +159,7 @@ TEST(DataRecord, DetailHtmlShowsTwoDigitSizes) {
     html.resize(html.find('\0'));
     EXPECT_EQ(html,
               "<table class=\"detail_table\"><tr><th>Dataitem</th><th>Name</th><th>Size</th><th>Summary</th></tr>"
-              "<tr><td>I048/SPF</td><td>Special Purpose Field</td><td>12</td><td>NOT_IMPLEMENTED</td></tr>"
+              "<tr><td>I048/SPF</td><td>Special Purpose Field</td><td>12</td><td>SPECIAL_PURPOSE</td></tr>"
               "</table><br/>");
 
     r = decode(kPlot, kPlot.size());

@@ -1,38 +1,61 @@
 // CAT001 dispatch rows: size rule and name of every item of the track and
 // plot UAPs, of the ASR-10SS and ASR-10SS Mk2 sensor layouts and of the
-// MANAGAIR custom field.
+// MANAGAIR custom field, and the common items that serve some of them.
 #include "kovrel/cat001.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
+// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex.
+// Items served by a common item take its summary and detail view.
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
+     nullptr, ast_dataitem_001_010_decode_ex},
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_2_byte},
     // The library reads at most the first extension of I001/030: a longer
     // chain is logged and cut after two octets.
     {30, "Warning/Error Conditions", ast_dataitem_get_size_var_2_byte},
     {40, "Measured Position in Polar Coordinates", ast_dataitem_get_size_fixed_4_byte},
     {42, "Calculated Position in Cartesian Coordinates", ast_dataitem_get_size_fixed_4_byte},
-    {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
-    {60, "Mode-2 Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte},
-    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
-    {80, "Mode-3/A Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte},
-    {90, "Mode-C Code in Binary Representation", ast_dataitem_get_size_fixed_2_byte},
-    {100, "Mode-C Code and Code Confidence Indicator", ast_dataitem_get_size_fixed_4_byte},
-    // I001/120 (Measured Radial Doppler Speed) and I001/150 (Presence of
-    // X-Pulse) are delimited like any other item, but the name function has
-    // never had an entry for them: they answer "Unknown CAT001 Dataitem",
-    // kept for compatibility with existing consumers.
+    // The Mode 2 items share the Mode 3/A layouts; the common functions tell
+    // I001/050 apart by its identifier and print it as "MODE_2:...".
+    {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_mode_3a_code_get_summary, ast_dataitem_mode_3a_code_get_detail_html,
+     nullptr, ast_dataitem_001_050_decode_ex},
+    {60, "Mode-2 Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_mode_3a_confidence_get_summary, ast_dataitem_mode_3a_confidence_get_detail_html,
+     nullptr, ast_dataitem_001_060_decode_ex},
+    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_mode_3a_code_get_summary, ast_dataitem_mode_3a_code_get_detail_html,
+     nullptr, ast_dataitem_001_070_decode_ex},
+    {80, "Mode-3/A Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_mode_3a_confidence_get_summary, ast_dataitem_mode_3a_confidence_get_detail_html,
+     nullptr, ast_dataitem_001_080_decode_ex},
+    {90, "Mode-C Code in Binary Representation", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_mode_c_code_get_summary, ast_dataitem_mode_c_code_get_detail_html,
+     nullptr, ast_dataitem_001_090_decode_ex},
+    {100, "Mode-C Code and Code Confidence Indicator", ast_dataitem_get_size_fixed_4_byte,
+     ast_dataitem_mode_c_confidence_get_summary, ast_dataitem_mode_c_confidence_get_detail_html,
+     nullptr, ast_dataitem_001_100_decode_ex},
     {120, nullptr, ast_dataitem_get_size_fixed_1_byte},
-    {130, "Radar Plot Characteristics", ast_dataitem_get_size_var_6_byte},
+    // The plot characteristics are summarised as their bits.
+    {130, "Radar Plot Characteristics", ast_dataitem_get_size_var_6_byte,
+     ast_dataitem_binary_data_get_summary, kNoDetail},
     {131, "Received Power", ast_dataitem_get_size_fixed_1_byte},
     {141, "Truncated Time of Day", ast_dataitem_get_size_fixed_2_byte},
     {150, nullptr, ast_dataitem_get_size_fixed_1_byte},
-    {161, "Track Plot Number", ast_dataitem_get_size_fixed_2_byte},
+    // All 16 bits of I001/161 are the number (the common item knows it).
+    {161, "Track Plot Number", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_track_number_get_summary, kNoDetail,
+     nullptr, ast_dataitem_001_161_decode_ex},
     {170, "Track Status", ast_dataitem_get_size_var_2_byte},
-    {200, "Calculated Track Velocity in Polar Coordinates", ast_dataitem_get_size_fixed_4_byte},
+    {200, "Calculated Track Velocity in Polar Coordinates", ast_dataitem_get_size_fixed_4_byte,
+     ast_dataitem_velocity_polar_get_summary, ast_dataitem_velocity_polar_get_detail_html,
+     nullptr, ast_dataitem_001_200_decode_ex},
     {210, "Track Quality", ast_dataitem_get_size_var_12_byte},
 
     // ASR-10SS and ASR-10SS Mk2 fill the places of I001/130 (FRN 10) and
@@ -49,8 +72,12 @@ constexpr ItemRow kRows[] = {
     // is delimited and named, its content is not interpreted.
     {951, "Custom Field", ast_dataitem_get_size_fixed_2_byte},
 
-    {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size,
+     ast_dataitem_random_field_sequencing_get_summary, kNoDetail,
+     nullptr, ast_dataitem_001_RFS_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail,
+     nullptr, ast_dataitem_001_SPF_decode_ex},
 };
 
 }  // namespace

@@ -1,21 +1,40 @@
 // CAT002 dispatch rows: size rule and name of every item of the standard
 // UAP, of the ASR-10SS station status items and of the MANAGAIR custom
-// field.
+// field, and the common items that serve some of them.
 #include "kovrel/cat002.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
 // I002/060, 070, 080, 090 and 100 stand in the UAP but have no row: they
 // cannot be sized, so a record announcing one of them stops there.
+//
+// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex.
+// Items served by a common item take its summary and detail view; the
+// message type keeps the common decoder but is summarised with the CAT002
+// meanings of its values.
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
-    {20, "Sector Number", ast_dataitem_get_size_fixed_1_byte},
-    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
-    {41, "Antenna Rotation Period", ast_dataitem_get_size_fixed_2_byte},
-    {50, "Station Configuration Status", ast_dataitem_get_size_var_8_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
+     ast_dataitem_002_010_encode_ex, ast_dataitem_002_010_decode_ex},
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte,
+     ast_dataitem_002_000_get_summary, kNoDetail,
+     ast_dataitem_002_000_encode_ex, ast_dataitem_002_000_decode_ex},
+    {20, "Sector Number", ast_dataitem_get_size_fixed_1_byte,
+     ast_dataitem_sector_number_get_summary, ast_dataitem_sector_number_get_detail_html,
+     ast_dataitem_002_020_encode_ex, ast_dataitem_002_020_decode_ex},
+    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte,
+     ast_dataitem_time_of_day_get_summary, ast_dataitem_time_of_day_get_detail_html,
+     ast_dataitem_002_030_encode_ex, ast_dataitem_002_030_decode_ex},
+    {41, "Antenna Rotation Period", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_antenna_rotation_period_get_summary, ast_dataitem_antenna_rotation_period_get_detail_html,
+     ast_dataitem_002_041_encode_ex, ast_dataitem_002_041_decode_ex},
+    // The station status bits are shown as they are.
+    {50, "Station Configuration Status", ast_dataitem_get_size_var_8_byte,
+     ast_dataitem_binary_data_get_summary, kNoDetail},
 
     // ASR-10SS and ASR-10SS Mk2 put a longer station status of their own at
     // FRN 6, the place of I002/050 (both print as I002/050).
@@ -26,8 +45,12 @@ constexpr ItemRow kRows[] = {
     // delimited and named, its content is not interpreted.
     {951, "Custom Field", ast_dataitem_get_size_fixed_2_byte},
 
-    {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size,
+     ast_dataitem_random_field_sequencing_get_summary, kNoDetail,
+     nullptr, ast_dataitem_002_RFS_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail,
+     nullptr, ast_dataitem_002_SPF_decode_ex},
 };
 
 }  // namespace

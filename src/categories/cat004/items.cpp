@@ -1,6 +1,9 @@
-// CAT004 dispatch rows: size rule and name of every item, and the subfields
-// of the compound items I004/100, I004/120, I004/170 and I004/171.
+// CAT004 dispatch rows: size rule and name of every item, the common items
+// that serve some of them, and the subfields of the compound items I004/100,
+// I004/120, I004/170 and I004/171.
 #include "kovrel/cat004.h"
+#include "kovrel/items_ident.h"
+#include "kovrel/items_mode.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -96,29 +99,41 @@ namespace {
 
 constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
 constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+// Detail slot of the items without a view of their own.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 // I004/015, 045, 070, 074, 075, 076 and 110 stand in the UAP but have no
 // row: the library neither names nor sizes them, so a record announcing one
 // of them stops there.
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
-    {20, "Time of Message", ast_dataitem_get_size_fixed_3_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
+     ast_dataitem_004_010_encode_ex, ast_dataitem_004_010_decode_ex},
+    // A safety-net message type, read and written as the common message type.
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, nullptr, ast_dataitem_004_000_encode_ex,
+     ast_dataitem_004_000_decode_ex},
+    {20, "Time of Message", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
+     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_004_020_encode_ex, ast_dataitem_004_020_decode_ex},
     {40, "Alert Identifier", ast_dataitem_get_size_fixed_2_byte},
     // One presence bit per safety-net function, extended by FX without bound.
     {60, "Safety Net Function & System Status", ast_dataitem_get_size_var_unlimited},
-    {30, "Track Number 1", ast_dataitem_get_size_fixed_2_byte},
+    // Both track numbers are 16-bit; the common functions tell them by identifier.
+    {30, "Track Number 1", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_track_number_get_summary, kNoDetail,
+     ast_dataitem_004_030_encode_ex, ast_dataitem_004_030_decode_ex},
     {170, "Aircraft Identification & Characteristics 1", ast_dataitem_004_170_get_size, kCompoundSummary,
      kCompoundDetail, nullptr, nullptr, &kCompound004_170},
     {120, "Conflict Characteristics", ast_dataitem_004_120_get_size, kCompoundSummary, kCompoundDetail, nullptr,
      nullptr, &kCompound004_120},
     {100, "Area Definition", ast_dataitem_004_100_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
      &kCompound004_100},
-    {35, "Track Number 2", ast_dataitem_get_size_fixed_2_byte},
+    {35, "Track Number 2", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_track_number_get_summary, kNoDetail,
+     ast_dataitem_004_035_encode_ex, ast_dataitem_004_035_decode_ex},
     {171, "Aircraft Identification & Characteristics 2", ast_dataitem_004_171_get_size, kCompoundSummary,
      kCompoundDetail, nullptr, nullptr, &kCompound004_171},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_004_REF_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_004_SPF_decode_ex},
     // Items of the UAP that the safety-net views do not show: they are sized
     // (edition 1.13 layouts) so that records carrying them decode, but have no
     // name of their own and answer "Unknown CAT004 Dataitem".

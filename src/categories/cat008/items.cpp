@@ -1,7 +1,10 @@
 // CAT008 dispatch rows (monoradar derived weather information, edition 1.3
 // of the category): size rule and name of every item of the standard UAP.
+// Items laid out as a common item carry that item's views and the
+// structured entry points of common_items.cpp.
 #include "kovrel/cat008.h"
 #include "kovrel/core.h"
+#include "kovrel/items.h"
 #include "record/item_table.h"
 
 // I008/100 opens with a first part of three octets; only the third octet
@@ -21,9 +24,21 @@ extern "C" KOVREL_API uint64_t ast_dataitem_008_100_get_size(const uint8_t *octe
 namespace kovrel {
 namespace {
 
+// Common items without a detail view fill the slot with the empty view.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
+// Views of the common items, named once so that the rows read as a table.
+constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
+     ast_dataitem_008_010_encode_ex, ast_dataitem_008_010_decode_ex},
+    // The message type has no text of its own.
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail, ast_dataitem_008_000_encode_ex,
+     ast_dataitem_008_000_decode_ex},
     {20, "Vector Qualifier", ast_dataitem_get_size_var_2_byte},
     // X, Y and length: one octet each.
     {36, "Sequence of Cartesian Vectors in SPF Notation", ast_dataitem_get_size_rep_3_byte},
@@ -31,15 +46,18 @@ constexpr ItemRow kRows[] = {
     {34, "Sequence of Polar Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte},
     {40, "Contour Identifier", ast_dataitem_get_size_fixed_2_byte},
     {50, "Sequence of Contour Points in SPF Notation", ast_dataitem_get_size_rep_2_byte},
-    {90, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {90, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail, ast_dataitem_008_090_encode_ex,
+     ast_dataitem_008_090_decode_ex},
     {100, "Processing Status", ast_dataitem_008_100_get_size},
     // A chain of seven-bit status words, each octet extended by its FX bit,
     // with no upper bound in the category.
     {110, "Station Configuration Status", ast_dataitem_get_size_var_unlimited},
     {120, "Total Number of Items Constituting One Weather Picture", ast_dataitem_get_size_fixed_2_byte},
     {38, "Sequence of Weather Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
-    {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_008_SPF_decode_ex},
+    {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size,
+     ast_dataitem_random_field_sequencing_get_summary, kNoDetail, nullptr, ast_dataitem_008_RFS_decode_ex},
 };
 
 }  // namespace

@@ -1,33 +1,80 @@
 // CAT010 dispatch rows (monosensor surface movement data, edition 1.1 of the
 // category): size rule and name of every item of the standard UAP. The
 // category has no compound items.
+// Items laid out as a common item carry that item's views and the
+// structured entry points of common_items.cpp.
 #include "kovrel/cat010.h"
+#include "kovrel/items.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+// Common items without a detail view fill the slot with the empty view.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
+// Views of the common items, named once so that the rows read as a table.
+constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTrackSummary = ast_dataitem_track_number_get_summary;
+constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
+constexpr AstDataItemGetSummaryFn kPolarSummary = ast_dataitem_velocity_polar_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kPolarDetail = ast_dataitem_velocity_polar_get_detail_html;
+constexpr AstDataItemGetSummaryFn kHeightSummary = ast_dataitem_height_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kHeightDetail = ast_dataitem_height_get_detail_html;
+constexpr AstDataItemGetSummaryFn kMode3aSummary = ast_dataitem_mode_3a_code_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kMode3aDetail = ast_dataitem_mode_3a_code_get_detail_html;
+constexpr AstDataItemGetSummaryFn kModeCSummary = ast_dataitem_mode_c_code_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kModeCDetail = ast_dataitem_mode_c_code_get_detail_html;
+constexpr AstDataItemGetSummaryFn kAddressSummary = ast_dataitem_target_address_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kAddressDetail = ast_dataitem_target_address_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTargetIdSummary = ast_dataitem_target_id_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTargetIdDetail = ast_dataitem_target_id_get_detail_html;
+constexpr AstDataItemGetSummaryFn kModesMbSummary = ast_dataitem_modes_mb_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kModesMbDetail = ast_dataitem_modes_mb_get_detail_html;
+constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
+constexpr AstDataItemGetSummaryFn kRefSummary = ast_dataitem_reserved_expansion_field_get_summary;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
+     ast_dataitem_010_010_encode_ex, ast_dataitem_010_010_decode_ex},
+    // The message type has no text of its own.
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail,
+     ast_dataitem_010_000_encode_ex, ast_dataitem_010_000_decode_ex},
     // TYP..CRT, SIM..TOT, SPI: three octets in edition 1.1.
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_3_byte},
-    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
-    {41, "Position in WGS-84 Co-ordinates", ast_dataitem_get_size_fixed_8_byte},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_010_140_encode_ex, ast_dataitem_010_140_decode_ex},
+    // Read at 180/2^31 degrees. No encoder: the common one writes 180/2^25.
+    {41, "Position in WGS-84 Co-ordinates", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary, kWgs84Detail,
+     nullptr, ast_dataitem_010_041_decode_ex},
     {40, "Measured Position in Polar Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
+    // X and Y of 16 bits in metres, unlike the common Cartesian position.
     {42, "Position in Cartesian Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
-    {200, "Calculated Track Velocity in Polar Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
+    {200, "Calculated Track Velocity in Polar Co-ordinates", ast_dataitem_get_size_fixed_4_byte,
+     kPolarSummary, kPolarDetail, ast_dataitem_010_200_encode_ex, ast_dataitem_010_200_decode_ex},
+    // VX and VY at 1/16 m/s, unlike the common Cartesian velocity (1/4 m/s).
     {202, "Calculated Track Velocity in Cartesian Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
-    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte},
+    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte, kTrackSummary, kNoDetail,
+     ast_dataitem_010_161_encode_ex, ast_dataitem_010_161_decode_ex},
     {170, "Track Status", ast_dataitem_get_size_var_3_byte},
-    {60, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
-    {220, "Target Address", ast_dataitem_get_size_fixed_3_byte},
+    {60, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte, kMode3aSummary, kMode3aDetail,
+     ast_dataitem_010_060_encode_ex, ast_dataitem_010_060_decode_ex},
+    {220, "Target Address", ast_dataitem_get_size_fixed_3_byte, kAddressSummary, kAddressDetail,
+     ast_dataitem_010_220_encode_ex, ast_dataitem_010_220_decode_ex},
     // Status octet and six octets of six-bit characters.
-    {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte},
-    {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte},
+    {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte, kTargetIdSummary, kTargetIdDetail,
+     ast_dataitem_010_245_encode_ex, ast_dataitem_010_245_decode_ex},
+    {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte, kModesMbSummary, kModesMbDetail,
+     nullptr, ast_dataitem_010_250_decode_ex},
     {300, "Vehicle Fleet Identification", ast_dataitem_get_size_fixed_1_byte},
-    {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte},
-    {91, "Measured Height", ast_dataitem_get_size_fixed_2_byte},
+    {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte, kModeCSummary, kModeCDetail,
+     ast_dataitem_010_090_encode_ex, ast_dataitem_010_090_decode_ex},
+    {91, "Measured Height", ast_dataitem_get_size_fixed_2_byte, kHeightSummary, kHeightDetail,
+     nullptr, ast_dataitem_010_091_decode_ex},
     // Length, orientation, width: one octet each.
     {270, "Target Size and Orientation", ast_dataitem_get_size_var_3_byte},
     {550, "System Status", ast_dataitem_get_size_fixed_1_byte},
@@ -37,8 +84,10 @@ constexpr ItemRow kRows[] = {
     {280, "Presence", ast_dataitem_get_size_rep_2_byte},
     {131, "Amplitude of Primary Plot", ast_dataitem_get_size_fixed_1_byte},
     {210, "Calculated Acceleration", ast_dataitem_get_size_fixed_2_byte},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
+     nullptr, ast_dataitem_010_SPF_decode_ex},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size, kRefSummary, kNoDetail,
+     nullptr, ast_dataitem_010_REF_decode_ex},
 };
 
 }  // namespace

@@ -1,7 +1,10 @@
 // CAT015 dispatch rows (independent non-cooperative surveillance target
 // reports, edition 1.2 of the category): size rule and name of every item of
 // the standard UAP, and the subfields of its twelve compound items.
+// Items laid out as a common item carry that item's views and the
+// structured entry points of common_items.cpp.
 #include "kovrel/cat015.h"
+#include "kovrel/items.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -171,18 +174,34 @@ constexpr ItemRow compound(uint16_t item, const char *name, AstDataItemGetSizeFn
     return ItemRow{item, name, size, kCompoundSummary, kCompoundDetail, nullptr, nullptr, &c};
 }
 
+// Common items without a detail view fill the slot with the empty view.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
+// Views of the common items, named once so that the rows read as a table.
+constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
+constexpr AstDataItemGetSummaryFn kServiceSummary = ast_dataitem_service_id_get_summary;
+constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTrackSummary = ast_dataitem_track_number_get_summary;
+constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
+     ast_dataitem_015_010_encode_ex, ast_dataitem_015_010_decode_ex},
     // Message type (seven bits) and report generation (one bit).
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
-    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte},
+    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, kServiceSummary, kNoDetail,
+     ast_dataitem_015_015_encode_ex, ast_dataitem_015_015_decode_ex},
     // One octet with its FX bit; the edition defines no extent.
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_1_byte},
     // Seven-bit warning/error values, each octet extended by its FX bit,
     // with no upper bound in the category.
     {30, "Warning/Error Conditions", ast_dataitem_get_size_var_unlimited},
-    {145, "Time of Applicability", ast_dataitem_get_size_fixed_3_byte},
-    {161, "Track/Plot Number", ast_dataitem_get_size_fixed_2_byte},
+    {145, "Time of Applicability", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_015_145_encode_ex, ast_dataitem_015_145_decode_ex},
+    {161, "Track/Plot Number", ast_dataitem_get_size_fixed_2_byte, kTrackSummary, kNoDetail,
+     ast_dataitem_015_161_encode_ex, ast_dataitem_015_161_decode_ex},
     {170, "Track/Plot Status", ast_dataitem_get_size_var_1_byte},
     {50, "Update Period", ast_dataitem_get_size_fixed_2_byte},
     compound(270, "Target Size & Orientation", ast_dataitem_015_270_get_size, kCompound015_270),
@@ -210,7 +229,8 @@ constexpr ItemRow kRows[] = {
     // Not reached through the standard UAP (its 25 FRNs stop at I015/631),
     // but defined by the edition at FRN 26, so a caller's own profile may
     // carry it.
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
+     nullptr, ast_dataitem_015_SPF_decode_ex},
 };
 
 }  // namespace

@@ -1,22 +1,46 @@
 // CAT016 dispatch rows (independent non-cooperative surveillance system
 // configuration reports, edition 1.0 of the category): size rule and name of
 // every item of the standard UAP. The category has no compound items.
+// Items laid out as a common item carry that item's views and the
+// structured entry points of common_items.cpp.
 #include "kovrel/cat016.h"
+#include "kovrel/items.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+// Common items without a detail view fill the slot with the empty view.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
+// Views of the common items, named once so that the rows read as a table.
+constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
+constexpr AstDataItemGetSummaryFn kServiceSummary = ast_dataitem_service_id_get_summary;
+constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
+constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte},
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
-    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
+     ast_dataitem_016_010_encode_ex, ast_dataitem_016_010_decode_ex},
+    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, kServiceSummary, kNoDetail,
+     ast_dataitem_016_015_encode_ex, ast_dataitem_016_015_decode_ex},
+    // The message type has no text of its own.
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail,
+     ast_dataitem_016_000_encode_ex, ast_dataitem_016_000_decode_ex},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_016_140_encode_ex, ast_dataitem_016_140_decode_ex},
     {200, "System Configuration Reporting Period", ast_dataitem_get_size_fixed_1_byte},
     // Pair, transmitter and receiver identifiers: two octets each.
     {300, "Pair Identification", ast_dataitem_get_size_rep_6_byte},
     // Latitude and longitude, four octets each.
-    {400, "Position of the System Reference Point", ast_dataitem_get_size_fixed_8_byte},
+    // Read at 180/2^31 degrees. No encoder: the common one writes 180/2^25.
+    {400, "Position of the System Reference Point", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary, kWgs84Detail,
+     nullptr, ast_dataitem_016_400_decode_ex},
+    // Quarters of a metre, unlike the common height (6.25 ft).
     {405, "Height of System Reference Point", ast_dataitem_get_size_fixed_2_byte},
     // Identifier, position, altitude, time offset and its accuracy, and the
     // parallel transmitter index: 21 octets per transmitter.
@@ -26,7 +50,8 @@ constexpr ItemRow kRows[] = {
     // Not reached through the standard UAP (its 10 FRNs stop at I016/420),
     // but defined by the edition at FRN 11, so a caller's own profile may
     // carry it.
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
+     nullptr, ast_dataitem_016_SPF_decode_ex},
 };
 
 }  // namespace

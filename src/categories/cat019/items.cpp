@@ -1,27 +1,52 @@
 // CAT019 dispatch rows (multilateration system status messages, edition 1.3
 // of the category): size rule and name of every item of the standard UAP.
 // The category has no compound items.
+// Items laid out as a common item carry that item's views and the
+// structured entry points of common_items.cpp.
 #include "kovrel/cat019.h"
+#include "kovrel/items.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+// Common items without a detail view fill the slot with the empty view.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
+// Views of the common items, named once so that the rows read as a table.
+constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
+constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
+constexpr AstDataItemGetSummaryFn kRefSummary = ast_dataitem_reserved_expansion_field_get_summary;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
-    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
+     ast_dataitem_019_010_encode_ex, ast_dataitem_019_010_decode_ex},
+    // The message type has no text of its own.
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail,
+     ast_dataitem_019_000_encode_ex, ast_dataitem_019_000_decode_ex},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_019_140_encode_ex, ast_dataitem_019_140_decode_ex},
     {550, "System Status", ast_dataitem_get_size_fixed_1_byte},
     {551, "Tracking Processor Detailed Status", ast_dataitem_get_size_fixed_1_byte},
     // Remote sensor identifier and its status octet.
     {552, "Remote Sensor Detailed Status", ast_dataitem_get_size_rep_2_byte},
     // Two reference transponders per octet, two octets in edition 1.3.
     {553, "Reference Transponder Detailed Status", ast_dataitem_get_size_var_2_byte},
-    {600, "Position of the MLT System Reference Point", ast_dataitem_get_size_fixed_8_byte},
+    // Read at 180/2^30 degrees. No encoder: the common one writes 180/2^25.
+    {600, "Position of the MLT System Reference Point", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary, kWgs84Detail,
+     nullptr, ast_dataitem_019_600_decode_ex},
+    // Quarters of a metre, unlike the common height (6.25 ft).
     {610, "Height of the MLT System Reference Point", ast_dataitem_get_size_fixed_2_byte},
     {620, "WGS-84 Undulation", ast_dataitem_get_size_fixed_1_byte},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size, kRefSummary, kNoDetail,
+     nullptr, ast_dataitem_019_REF_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
+     nullptr, ast_dataitem_019_SPF_decode_ex},
 };
 
 }  // namespace

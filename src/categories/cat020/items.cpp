@@ -1,7 +1,10 @@
 // CAT020 dispatch rows (multilateration target reports, edition 1.11 of the
 // category): size rule and name of every item of the standard UAP, and the
 // subfields of the compound item I020/500.
+// Items laid out as a common item carry that item's views and the
+// structured entry points of common_items.cpp.
 #include "kovrel/cat020.h"
+#include "kovrel/items.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -29,29 +32,72 @@ constinit const CompoundItem kCompound020_500 = make_compound(3, k500Subfields, 
 
 namespace {
 
+// Common items without a detail view fill the slot with the empty view.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
+// Views of the common items, named once so that the rows read as a table.
+constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTrackSummary = ast_dataitem_track_number_get_summary;
+constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
+constexpr AstDataItemGetSummaryFn kCartesianSummary = ast_dataitem_position_cartesian_get_summary;
+constexpr AstDataItemGetSummaryFn kVelocitySummary = ast_dataitem_velocity_cartesian_get_summary;
+constexpr AstDataItemGetSummaryFn kHeightSummary = ast_dataitem_height_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kHeightDetail = ast_dataitem_height_get_detail_html;
+constexpr AstDataItemGetSummaryFn kMode3aSummary = ast_dataitem_mode_3a_code_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kMode3aDetail = ast_dataitem_mode_3a_code_get_detail_html;
+constexpr AstDataItemGetSummaryFn kModeCSummary = ast_dataitem_mode_c_code_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kModeCDetail = ast_dataitem_mode_c_code_get_detail_html;
+constexpr AstDataItemGetSummaryFn kModeCQualitySummary = ast_dataitem_mode_c_confidence_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kModeCQualityDetail = ast_dataitem_mode_c_confidence_get_detail_html;
+constexpr AstDataItemGetSummaryFn kAddressSummary = ast_dataitem_target_address_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kAddressDetail = ast_dataitem_target_address_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTargetIdSummary = ast_dataitem_target_id_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTargetIdDetail = ast_dataitem_target_id_get_detail_html;
+constexpr AstDataItemGetSummaryFn kModesMbSummary = ast_dataitem_modes_mb_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kModesMbDetail = ast_dataitem_modes_mb_get_detail_html;
+constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
+constexpr AstDataItemGetSummaryFn kRefSummary = ast_dataitem_reserved_expansion_field_get_summary;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
+     ast_dataitem_020_010_encode_ex, ast_dataitem_020_010_decode_ex},
     // Three octets since edition 1.10 added the CF octet; edition 1.9 data,
     // which stops after two, is read the same.
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_3_byte},
-    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_020_140_encode_ex, ast_dataitem_020_140_decode_ex},
     // The capital "In" is the edition's own spelling.
-    {41, "Position In WGS-84 Coordinates", ast_dataitem_get_size_fixed_8_byte},
+    {41, "Position In WGS-84 Coordinates", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary, kWgs84Detail,
+     ast_dataitem_020_041_encode_ex, ast_dataitem_020_041_decode_ex},
     // x and y: three octets each.
-    {42, "Position in Cartesian Coordinates", ast_dataitem_get_size_fixed_6_byte},
-    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte},
+    {42, "Position in Cartesian Coordinates", ast_dataitem_get_size_fixed_6_byte, kCartesianSummary, kNoDetail,
+     nullptr, ast_dataitem_020_042_decode_ex},
+    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte, kTrackSummary, kNoDetail,
+     ast_dataitem_020_161_encode_ex, ast_dataitem_020_161_decode_ex},
     {170, "Track Status", ast_dataitem_get_size_var_2_byte},
-    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
-    {202, "Calculated Track Velocity in Cartesian Coordinates", ast_dataitem_get_size_fixed_4_byte},
-    {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte},
+    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte, kMode3aSummary, kMode3aDetail,
+     ast_dataitem_020_070_encode_ex, ast_dataitem_020_070_decode_ex},
+    {202, "Calculated Track Velocity in Cartesian Coordinates", ast_dataitem_get_size_fixed_4_byte,
+     kVelocitySummary, kNoDetail, nullptr, ast_dataitem_020_202_decode_ex},
+    {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte, kModeCSummary, kModeCDetail,
+     ast_dataitem_020_090_encode_ex, ast_dataitem_020_090_decode_ex},
     // Validity bits and the Gray-coded Mode C reply, then its quality-pulse
     // bits: two octets each.
-    {100, "Mode C Code", ast_dataitem_get_size_fixed_4_byte},
-    {220, "Target Address", ast_dataitem_get_size_fixed_3_byte},
+    {100, "Mode C Code", ast_dataitem_get_size_fixed_4_byte, kModeCQualitySummary, kModeCQualityDetail,
+     nullptr, ast_dataitem_020_100_decode_ex},
+    {220, "Target Address", ast_dataitem_get_size_fixed_3_byte, kAddressSummary, kAddressDetail,
+     ast_dataitem_020_220_encode_ex, ast_dataitem_020_220_decode_ex},
     // Status octet and six octets of six-bit characters.
-    {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte},
-    {110, "Measured Height (Local Cartesian Coordinates)", ast_dataitem_get_size_fixed_2_byte},
-    {105, "Geometric Height (WGS-84)", ast_dataitem_get_size_fixed_2_byte},
+    {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte, kTargetIdSummary, kTargetIdDetail,
+     ast_dataitem_020_245_encode_ex, ast_dataitem_020_245_decode_ex},
+    {110, "Measured Height (Local Cartesian Coordinates)", ast_dataitem_get_size_fixed_2_byte,
+     kHeightSummary, kHeightDetail, nullptr, ast_dataitem_020_110_decode_ex},
+    {105, "Geometric Height (WGS-84)", ast_dataitem_get_size_fixed_2_byte, kHeightSummary, kHeightDetail,
+     nullptr, ast_dataitem_020_105_decode_ex},
     {210, "Calculated Acceleration", ast_dataitem_get_size_fixed_2_byte},
     {300, "Vehicle Fleet Identification", ast_dataitem_get_size_fixed_1_byte},
     {310, "Pre-programmed Message", ast_dataitem_get_size_fixed_1_byte},
@@ -60,16 +106,23 @@ constexpr ItemRow kRows[] = {
     // One octet of eight contribution bits per repetition.
     {400, "Contributing Devices", ast_dataitem_get_size_rep_1_byte},
     // Seven octets of register data and the register address octet.
-    {250, "BDS Register Data", ast_dataitem_get_size_rep_8_byte},
+    {250, "BDS Register Data", ast_dataitem_get_size_rep_8_byte, kModesMbSummary, kModesMbDetail,
+     nullptr, ast_dataitem_020_250_decode_ex},
     {230, "Communications/ACAS Capability and Flight Status", ast_dataitem_get_size_fixed_2_byte},
     {260, "ACAS Resolution Advisory Report", ast_dataitem_get_size_fixed_7_byte},
     // Seven-bit warning/error values, each octet extended by its FX bit,
     // with no upper bound in the category.
     {30, "Warning/Error Conditions", ast_dataitem_get_size_var_unlimited},
     {55, "Mode-1 Code in Octal Representation", ast_dataitem_get_size_fixed_1_byte},
-    {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    // Laid out as a Mode 3/A code. No summary: the common one would call the
+    // code "MODE_3/A"; its detail view shows the L bit as SMOOTHED, which is
+    // what the bit means here.
+    {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte, nullptr, kMode3aDetail,
+     ast_dataitem_020_050_encode_ex, ast_dataitem_020_050_decode_ex},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size, kRefSummary, kNoDetail,
+     nullptr, ast_dataitem_020_REF_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
+     nullptr, ast_dataitem_020_SPF_decode_ex},
 };
 
 }  // namespace

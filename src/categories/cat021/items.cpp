@@ -1,9 +1,11 @@
 // CAT021 dispatch rows: size rule and name of every item of the editions
 // 0.23, 0.26, 2.1 and 2.7, including the old-edition items 21902..21911 that
 // stand in for items whose layout changed between the early editions and
-// the later ones.
+// the later ones. Items laid out as a common item carry that item's views
+// and the structured entry points of common_items.cpp.
 #include "categories/cat021/subfields.h"
 #include "kovrel/cat021.h"
+#include "kovrel/items.h"
 #include "record/item_table.h"
 
 // Surface capabilities of editions 1.0 to 2.1: one octet, or two when the
@@ -20,36 +22,80 @@ namespace {
 
 constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
 constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+// Common items without a detail view fill the slot with the empty view.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
+// Views of the common items, named once so that the rows read as a table.
+constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
+constexpr AstDataItemGetSummaryFn kServiceSummary = ast_dataitem_service_id_get_summary;
+constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTimeHighSummary = ast_dataitem_time_of_day_high_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kTimeHighDetail = ast_dataitem_time_of_day_high_get_detail_html;
+constexpr AstDataItemGetSummaryFn kMode3aSummary = ast_dataitem_mode_3a_code_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kMode3aDetail = ast_dataitem_mode_3a_code_get_detail_html;
+constexpr AstDataItemGetSummaryFn kAddressSummary = ast_dataitem_target_address_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kAddressDetail = ast_dataitem_target_address_get_detail_html;
+constexpr AstDataItemGetSummaryFn kTrackSummary = ast_dataitem_track_number_get_summary;
+constexpr AstDataItemGetSummaryFn kIdentSummary = ast_dataitem_aircraft_id_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kIdentDetail = ast_dataitem_aircraft_id_get_detail_html;
+constexpr AstDataItemGetSummaryFn kWgs84LowSummary = ast_dataitem_position_wgs84_low_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kWgs84LowDetail = ast_dataitem_position_wgs84_low_get_detail_html;
+constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
+constexpr AstDataItemGetSummaryFn kRateSummary = ast_dataitem_vertical_rate_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kRateDetail = ast_dataitem_vertical_rate_get_detail_html;
+constexpr AstDataItemGetSummaryFn kRateNoReSummary = ast_dataitem_vertical_rate_no_re_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kRateNoReDetail = ast_dataitem_vertical_rate_no_re_get_detail_html;
+constexpr AstDataItemGetSummaryFn kModesMbSummary = ast_dataitem_modes_mb_get_summary;
+constexpr AstDataItemGetDetailHtmlFn kModesMbDetail = ast_dataitem_modes_mb_get_detail_html;
 
 // Rows without a name (110, 148, 165, 220) are delimited but have no
 // display name of their own: the name function answers "Unknown CAT021
 // Dataitem" for them, which is what existing consumers show.
 constexpr ItemRow kRows[] = {
     {8, "Aircraft Operational Status", ast_dataitem_get_size_fixed_1_byte},
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
+     ast_dataitem_021_010_encode_ex, ast_dataitem_021_010_decode_ex},
+    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, kServiceSummary, kNoDetail,
+     ast_dataitem_021_015_encode_ex, ast_dataitem_021_015_decode_ex},
     {16, "Service Management", ast_dataitem_get_size_fixed_1_byte},
     {20, "Emitter Category", ast_dataitem_get_size_fixed_1_byte},
-    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_021_030_encode_ex, ast_dataitem_021_030_decode_ex},
     {32, "Time of Day Accuracy", ast_dataitem_get_size_fixed_1_byte},
     // Up to three octets are decoded; later editions add extensions, which
     // the size rule walks over so the rest of the record stays readable.
     {40, "Target Report Descriptor", ast_dataitem_get_size_var_unlimited},
-    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
-    {71, "Time of Applicability for Position", ast_dataitem_get_size_fixed_3_byte},
-    {72, "Time of Applicability for Velocity", ast_dataitem_get_size_fixed_3_byte},
-    {73, "Time of Message Reception for Position", ast_dataitem_get_size_fixed_3_byte},
-    {74, "Time of Message Reception of Position - High Precision", ast_dataitem_get_size_fixed_4_byte},
-    {75, "Time of Message Reception for Velocity", ast_dataitem_get_size_fixed_3_byte},
-    {76, "Time of Message Reception of Velocity - High Precision", ast_dataitem_get_size_fixed_4_byte},
-    {77, "Time of ASTERIX Report Transmission", ast_dataitem_get_size_fixed_3_byte},
-    {80, "Target Address", ast_dataitem_get_size_fixed_3_byte},
+    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte, kMode3aSummary, kMode3aDetail,
+     ast_dataitem_021_070_encode_ex, ast_dataitem_021_070_decode_ex},
+    {71, "Time of Applicability for Position", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_021_071_encode_ex, ast_dataitem_021_071_decode_ex},
+    {72, "Time of Applicability for Velocity", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_021_072_encode_ex, ast_dataitem_021_072_decode_ex},
+    {73, "Time of Message Reception for Position", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_021_073_encode_ex, ast_dataitem_021_073_decode_ex},
+    {74, "Time of Message Reception of Position - High Precision", ast_dataitem_get_size_fixed_4_byte,
+     kTimeHighSummary, kTimeHighDetail, nullptr, ast_dataitem_021_074_decode_ex},
+    {75, "Time of Message Reception for Velocity", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_021_075_encode_ex, ast_dataitem_021_075_decode_ex},
+    {76, "Time of Message Reception of Velocity - High Precision", ast_dataitem_get_size_fixed_4_byte,
+     kTimeHighSummary, kTimeHighDetail, nullptr, ast_dataitem_021_076_decode_ex},
+    {77, "Time of ASTERIX Report Transmission", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
+     ast_dataitem_021_077_encode_ex, ast_dataitem_021_077_decode_ex},
+    {80, "Target Address", ast_dataitem_get_size_fixed_3_byte, kAddressSummary, kAddressDetail,
+     ast_dataitem_021_080_encode_ex, ast_dataitem_021_080_decode_ex},
     {90, "Quality Indicators", ast_dataitem_get_size_var_4_byte},
     {95, "Velocity Accuracy", ast_dataitem_get_size_fixed_1_byte},
     {110, nullptr, ast_dataitem_021_110_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
      &kCompound021_110},
-    {130, "Position in WGS84 Coordinates", ast_dataitem_get_size_fixed_6_byte},
-    {131, "High-Resolution Position in WGS-84 Coordinates", ast_dataitem_get_size_fixed_8_byte},
+    {130, "Position in WGS84 Coordinates", ast_dataitem_get_size_fixed_6_byte, kWgs84LowSummary, kWgs84LowDetail,
+     ast_dataitem_021_130_encode_ex, ast_dataitem_021_130_decode_ex},
+    // Decoded at 180/2^30 (the common decoder knows the item), written back
+    // at 180/2^25 like every 8-octet position.
+    {131, "High-Resolution Position in WGS-84 Coordinates", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary,
+     kWgs84Detail, ast_dataitem_021_131_encode_ex, ast_dataitem_021_131_decode_ex},
     {132, "Message Amplitude", ast_dataitem_get_size_fixed_1_byte},
     {140, "Geometric Altitude", ast_dataitem_get_size_fixed_2_byte},
     {145, "Flight Level", ast_dataitem_get_size_fixed_2_byte},
@@ -58,38 +104,49 @@ constexpr ItemRow kRows[] = {
     {150, "Air Speed", ast_dataitem_get_size_fixed_2_byte},
     {151, "True Air Speed", ast_dataitem_get_size_fixed_2_byte},
     {152, "Magnetic Heading", ast_dataitem_get_size_fixed_2_byte},
-    {155, "Barometric Vertical Rate", ast_dataitem_get_size_fixed_2_byte},
-    {157, "Geometric Vertical Rate", ast_dataitem_get_size_fixed_2_byte},
+    {155, "Barometric Vertical Rate", ast_dataitem_get_size_fixed_2_byte, kRateSummary, kRateDetail,
+     ast_dataitem_021_155_encode_ex, ast_dataitem_021_155_decode_ex},
+    {157, "Geometric Vertical Rate", ast_dataitem_get_size_fixed_2_byte, kRateSummary, kRateDetail,
+     ast_dataitem_021_157_encode_ex, ast_dataitem_021_157_decode_ex},
     {160, "Airborne Ground Vector", ast_dataitem_get_size_fixed_4_byte},
-    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte},
+    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte, kTrackSummary, kNoDetail,
+     ast_dataitem_021_161_encode_ex, ast_dataitem_021_161_decode_ex},
     // Sized as the two octets of editions 1.x and later; the FX-extended
     // rate of turn of editions 0.23/0.26 shares the number.
     {165, nullptr, ast_dataitem_get_size_fixed_2_byte},
-    {170, "Target Identification", ast_dataitem_get_size_fixed_6_byte},
+    // Eight characters without a source indicator: the aircraft identification.
+    {170, "Target Identification", ast_dataitem_get_size_fixed_6_byte, kIdentSummary, kIdentDetail,
+     ast_dataitem_021_170_encode_ex, ast_dataitem_021_170_decode_ex},
     {200, "Target Status", ast_dataitem_get_size_fixed_1_byte},
     {210, "MOPS Version", ast_dataitem_get_size_fixed_1_byte},
     {220, nullptr, ast_dataitem_021_220_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
      &kCompound021_220},
     {230, "Roll Angle", ast_dataitem_get_size_fixed_2_byte},
-    {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte},
+    {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte, kModesMbSummary, kModesMbDetail, nullptr,
+     ast_dataitem_021_250_decode_ex},
     {260, "ACAS Resolution Advisory Report", ast_dataitem_get_size_fixed_7_byte},
     {271, "Surface Capabilities and Characteristics (Ver >= 2.2)", ast_dataitem_get_size_var_2_byte},
     {295, "Data Ages", ast_dataitem_021_295_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
      &kCompound021_295},
     {400, "Receiver ID", ast_dataitem_get_size_fixed_1_byte},
     // Items of the editions 0.23 and 0.26 (and 1.0 to 2.1 for 907).
-    {902, "Position in WGS84 Coordinates (0.23 < Ver <= 0.26)", ast_dataitem_get_size_fixed_8_byte},
+    {902, "Position in WGS84 Coordinates (0.23 < Ver <= 0.26)", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary,
+     kWgs84Detail, ast_dataitem_021_A02_encode_ex, ast_dataitem_021_A02_decode_ex},
     {903, "Target Report Descriptor (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte},
     {904, "Signal Amplitude (Ver = 0.26)", ast_dataitem_get_size_fixed_1_byte},
     {905, "Figure of Merit (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte},
     {906, "Link Technology Indicator (Ver <= 0.26)", ast_dataitem_get_size_fixed_1_byte},
     {907, "Surface Capabilities and Characteristics (1.0 <= Ver < 2.2)", ast_dataitem_021_A07_get_size},
     {908, "Target Status (Ver <= 0.26)", ast_dataitem_get_size_fixed_1_byte},
-    {909, "Barometric Vertical Rate (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte},
-    {910, "Geometric Vertical Rate (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte},
+    {909, "Barometric Vertical Rate (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte, kRateNoReSummary,
+     kRateNoReDetail, ast_dataitem_021_A09_encode_ex, ast_dataitem_021_A09_decode_ex},
+    {910, "Geometric Vertical Rate (Ver <= 0.26)", ast_dataitem_get_size_fixed_2_byte, kRateNoReSummary,
+     kRateNoReDetail, ast_dataitem_021_A10_encode_ex, ast_dataitem_021_A10_decode_ex},
     {911, "Ground Vector (Ver <= 0.26)", ast_dataitem_get_size_fixed_4_byte},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_021_REF_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_021_SPF_decode_ex},
 };
 
 }  // namespace

@@ -1,7 +1,13 @@
-// CAT023 dispatch rows: size rule and name of every item, and the size
-// rule of I023/101, whose FX chain does not start in its first octet.
+// CAT023 dispatch rows: size rule and name of every item, the common items
+// that serve some of them, and the size rule of I023/101, whose FX chain
+// does not start in its first octet.
+//
+// The data source identifier and time of day are shown through the common
+// items but have no structured decode or encode in this category.
 #include "kovrel/cat023.h"
 #include "kovrel/core.h"
+#include "kovrel/items_ident.h"
+#include "kovrel/items_mode.h"
 #include "record/item_table.h"
 
 // I023/101 Ground Station Configuration: octet 1 is the report period as a
@@ -20,19 +26,26 @@ extern "C" KOVREL_API uint64_t ast_dataitem_023_101_get_size(const uint8_t *octe
 namespace kovrel {
 namespace {
 
+// Detail slot of the items without a view of their own.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html},
     {0, "Report Type", ast_dataitem_get_size_fixed_1_byte},
     {15, "Service Type and Identification", ast_dataitem_get_size_fixed_1_byte},
-    {70, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {70, "Time of Day", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
+     ast_dataitem_time_of_day_get_detail_html},
     {100, "Ground Station Status", ast_dataitem_get_size_var_unlimited},
     {101, "Ground Station Configuration", ast_dataitem_023_101_get_size},
     {200, "Operational Range", ast_dataitem_get_size_fixed_1_byte},
     {110, "Service Status", ast_dataitem_get_size_var_unlimited},
     // REP entries of TYPE, REF/spare and a 32-bit counter.
     {120, "Service Statistics", ast_dataitem_get_size_rep_6_byte},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail},
 };
 
 }  // namespace

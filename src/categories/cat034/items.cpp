@@ -1,5 +1,6 @@
-// CAT034 dispatch rows: size rule and name of every item, and the subfields
-// of the compound items I034/050 and I034/060.
+// CAT034 dispatch rows: size rule and name of every item, the common items
+// that serve some of them, and the subfields of the compound items I034/050
+// and I034/060.
 #include "kovrel/cat034.h"
 #include "record/item_table.h"
 
@@ -49,26 +50,48 @@ namespace {
 
 constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
 constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 // I034/100 (Generic Polar Window) stands in the UAP but has no row: it
 // cannot be sized, so a record announcing it stops there.
+//
+// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex.
+// Items served by a common item take its summary and detail view; the
+// message type keeps the common decoder but is summarised with the CAT034
+// meanings of its values.
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
-    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
-    {20, "Sector Number", ast_dataitem_get_size_fixed_1_byte},
-    {41, "Antenna Rotation Period", ast_dataitem_get_size_fixed_2_byte},
-    {50, "Station Configuration & Status", ast_dataitem_034_050_get_size, kCompoundSummary, kCompoundDetail,
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
+     ast_dataitem_034_010_encode_ex, ast_dataitem_034_010_decode_ex},
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte,
+     ast_dataitem_034_000_get_summary, kNoDetail,
+     ast_dataitem_034_000_encode_ex, ast_dataitem_034_000_decode_ex},
+    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte,
+     ast_dataitem_time_of_day_get_summary, ast_dataitem_time_of_day_get_detail_html,
+     ast_dataitem_034_030_encode_ex, ast_dataitem_034_030_decode_ex},
+    {20, "Sector Number", ast_dataitem_get_size_fixed_1_byte,
+     ast_dataitem_sector_number_get_summary, ast_dataitem_sector_number_get_detail_html,
+     ast_dataitem_034_020_encode_ex, ast_dataitem_034_020_decode_ex},
+    {41, "Antenna Rotation Period", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_antenna_rotation_period_get_summary, ast_dataitem_antenna_rotation_period_get_detail_html,
+     ast_dataitem_034_041_encode_ex, ast_dataitem_034_041_decode_ex},
+    {50, "Station Configuration & Status", ast_dataitem_034_050_get_size,
+     kCompoundSummary, kCompoundDetail,
      nullptr, nullptr, &kCompound034_050},
-    {60, "System Processing Mode", ast_dataitem_034_060_get_size, kCompoundSummary, kCompoundDetail, nullptr,
-     nullptr, &kCompound034_060},
+    {60, "System Processing Mode", ast_dataitem_034_060_get_size,
+     kCompoundSummary, kCompoundDetail,
+     nullptr, nullptr, &kCompound034_060},
     {70, "Message Count Values", ast_dataitem_get_size_rep_2_byte},
     {110, "Data Filter", ast_dataitem_get_size_fixed_1_byte},
     // "Of" with a capital O is the name existing consumers display and match on.
     {120, "3D-Position Of Data Source", ast_dataitem_get_size_fixed_8_byte},
     {90, "Collimation Error", ast_dataitem_get_size_fixed_2_byte},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail,
+     nullptr, ast_dataitem_034_REF_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail,
+     nullptr, ast_dataitem_034_SPF_decode_ex},
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
-// CAT048 dispatch rows: size rule and name of every item, and the subfields
-// of the compound items I048/120 and I048/130.
+// CAT048 dispatch rows: size rule and name of every item, the common items
+// that serve some of them, and the subfields of the compound items I048/120
+// and I048/130.
 #include "kovrel/cat048.h"
 #include "record/item_table.h"
 
@@ -42,38 +43,70 @@ namespace {
 
 constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
 constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 // I048/055, 060 and 065 stand in the UAP but have no row: they cannot be
 // sized, so a record announcing them stops there.
+//
+// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex.
+// Items served by a common item take its summary and detail view.
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
+     ast_dataitem_048_010_encode_ex, ast_dataitem_048_010_decode_ex},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte,
+     ast_dataitem_time_of_day_get_summary, ast_dataitem_time_of_day_get_detail_html,
+     ast_dataitem_048_140_encode_ex, ast_dataitem_048_140_decode_ex},
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_2_byte},
     {40, "Measured Position in Polar Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
-    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
-    {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte},
-    {130, "Radar Plot Characteristics", ast_dataitem_048_130_get_size, kCompoundSummary, kCompoundDetail,
+    {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_mode_3a_code_get_summary, ast_dataitem_mode_3a_code_get_detail_html,
+     ast_dataitem_048_070_encode_ex, ast_dataitem_048_070_decode_ex},
+    {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_mode_c_code_get_summary, ast_dataitem_mode_c_code_get_detail_html,
+     ast_dataitem_048_090_encode_ex, ast_dataitem_048_090_decode_ex},
+    {130, "Radar Plot Characteristics", ast_dataitem_048_130_get_size,
+     kCompoundSummary, kCompoundDetail,
      nullptr, nullptr, &kCompound048_130},
-    {220, "Aircraft Address", ast_dataitem_get_size_fixed_3_byte},
-    {240, "Aircraft Identification", ast_dataitem_get_size_fixed_6_byte},
-    {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte},
-    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte},
+    {220, "Aircraft Address", ast_dataitem_get_size_fixed_3_byte,
+     ast_dataitem_target_address_get_summary, ast_dataitem_target_address_get_detail_html,
+     ast_dataitem_048_220_encode_ex, ast_dataitem_048_220_decode_ex},
+    {240, "Aircraft Identification", ast_dataitem_get_size_fixed_6_byte,
+     ast_dataitem_aircraft_id_get_summary, ast_dataitem_aircraft_id_get_detail_html,
+     ast_dataitem_048_240_encode_ex, ast_dataitem_048_240_decode_ex},
+    {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte,
+     ast_dataitem_modes_mb_get_summary, ast_dataitem_modes_mb_get_detail_html,
+     nullptr, ast_dataitem_048_250_decode_ex},
+    {161, "Track Number", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_track_number_get_summary, kNoDetail,
+     ast_dataitem_048_161_encode_ex, ast_dataitem_048_161_decode_ex},
     {42, "Calculated Position in Cartesian Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
     // "Ploar" is the name existing consumers display and match on.
-    {200, "Calculated Track Velocity in Ploar Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
+    {200, "Calculated Track Velocity in Ploar Co-ordinates", ast_dataitem_get_size_fixed_4_byte,
+     ast_dataitem_velocity_polar_get_summary, ast_dataitem_velocity_polar_get_detail_html,
+     ast_dataitem_048_200_encode_ex, ast_dataitem_048_200_decode_ex},
     {170, "Track Status", ast_dataitem_get_size_var_2_byte},
     {210, "Track Quality", ast_dataitem_get_size_fixed_4_byte},
     {30, "Warning/Error Conditions", ast_dataitem_get_size_var_23_byte},
-    {80, "Mode-3/A Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte},
-    {100, "Mode-C Code and Code Confidence Indicator", ast_dataitem_get_size_fixed_4_byte},
+    {80, "Mode-3/A Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_mode_3a_confidence_get_summary, ast_dataitem_mode_3a_confidence_get_detail_html,
+     nullptr, ast_dataitem_048_080_decode_ex},
+    {100, "Mode-C Code and Code Confidence Indicator", ast_dataitem_get_size_fixed_4_byte,
+     ast_dataitem_mode_c_confidence_get_summary, ast_dataitem_mode_c_confidence_get_detail_html,
+     nullptr, ast_dataitem_048_100_decode_ex},
     {110, "Height Measured by a 3D Radar", ast_dataitem_get_size_fixed_2_byte},
-    {120, "Radial Doppler Speed", ast_dataitem_048_120_get_size, kCompoundSummary, kCompoundDetail, nullptr,
-     nullptr, &kCompound048_120},
+    {120, "Radial Doppler Speed", ast_dataitem_048_120_get_size,
+     kCompoundSummary, kCompoundDetail,
+     nullptr, nullptr, &kCompound048_120},
     {230, "Communications / ACAS Capability and Flight Status", ast_dataitem_get_size_fixed_2_byte},
     {260, "ACAS Resolution Advisory Report", ast_dataitem_get_size_fixed_7_byte},
     {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail,
+     nullptr, ast_dataitem_048_SPF_decode_ex},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail,
+     nullptr, ast_dataitem_048_REF_decode_ex},
 };
 
 }  // namespace

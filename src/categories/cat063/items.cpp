@@ -1,16 +1,28 @@
-// CAT063 dispatch rows: size rule and name of every item.
+// CAT063 dispatch rows: size rule and name of every item, and the common
+// items that serve some of them.
 #include "kovrel/cat063.h"
+#include "kovrel/items_ident.h"
+#include "kovrel/items_mode.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+// Detail slot of the items without a view of their own.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte},
-    {30, "Time of Message", ast_dataitem_get_size_fixed_3_byte},
-    // SAC/SIC of the sensor the report is about.
-    {50, "Sensor Identifier", ast_dataitem_get_size_fixed_2_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
+     ast_dataitem_063_010_encode_ex, ast_dataitem_063_010_decode_ex},
+    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_service_id_get_summary,
+     kNoDetail, ast_dataitem_063_015_encode_ex, ast_dataitem_063_015_decode_ex},
+    {30, "Time of Message", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
+     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_063_030_encode_ex, ast_dataitem_063_030_decode_ex},
+    // SAC/SIC of the sensor the report is about, shown as a data source.
+    {50, "Sensor Identifier", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_data_source_identifier_get_summary,
+     ast_dataitem_data_source_identifier_get_detail_html, ast_dataitem_063_050_encode_ex,
+     ast_dataitem_063_050_decode_ex},
     // Later editions add octets to the chain; they are delimited, not read.
     {60, "Sensor Configuration and Status", ast_dataitem_get_size_var_unlimited},
     {70, "Time Stamping Bias", ast_dataitem_get_size_fixed_2_byte},
@@ -20,8 +32,10 @@ constexpr ItemRow kRows[] = {
     {90, "PSR Range Gain and Bias", ast_dataitem_get_size_fixed_4_byte},
     {91, "PSR Azimuth Bias", ast_dataitem_get_size_fixed_2_byte},
     {92, "PSR Elevation Bias", ast_dataitem_get_size_fixed_2_byte},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_063_REF_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_063_SPF_decode_ex},
 };
 
 }  // namespace

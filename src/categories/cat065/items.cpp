@@ -1,21 +1,35 @@
-// CAT065 dispatch rows: size rule and name of every item.
+// CAT065 dispatch rows: size rule and name of every item, and the common
+// items that serve some of them.
 #include "kovrel/cat065.h"
+#include "kovrel/items_ident.h"
+#include "kovrel/items_mode.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+// Detail slot of the items without a view of their own.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
-    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte},
-    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
+     ast_dataitem_065_010_encode_ex, ast_dataitem_065_010_decode_ex},
+    // Read and written as the common message type, summarised by the category.
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail, ast_dataitem_065_000_encode_ex,
+     ast_dataitem_065_000_decode_ex},
+    {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_service_id_get_summary,
+     kNoDetail, ast_dataitem_065_015_encode_ex, ast_dataitem_065_015_decode_ex},
+    {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
+     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_065_030_encode_ex, ast_dataitem_065_030_decode_ex},
     {20, "Batch Number", ast_dataitem_get_size_fixed_1_byte},
     // NOGO, OVL, TSV and PSS packed into one octet.
     {40, "SDPS Configuration and Status", ast_dataitem_get_size_fixed_1_byte},
     {50, "Service Status Report", ast_dataitem_get_size_fixed_1_byte},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_065_REF_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_065_SPF_decode_ex},
 };
 
 }  // namespace

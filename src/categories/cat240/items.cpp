@@ -1,19 +1,30 @@
-// CAT240 dispatch rows: size rule and name of every item.
+// CAT240 dispatch rows: size rule and name of every item, and the common
+// items that serve the message type, data source identifier, time of day
+// and the RE and SP fields.
 //
 // The video blocks are plain repetitive items of 4, 64 and 256 octets a
 // repetition. The size rule of the high-volume block accepts REP 255 (an
 // item of 65281 octets) like any other count: refusing that count is the
 // block decoder's business, and it can only report it on a delimited item.
 #include "kovrel/cat240.h"
+#include "kovrel/items_ident.h"
+#include "kovrel/items_mode.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+// Detail slot of the items without a view of their own.
+constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+
 constexpr ItemRow kRows[] = {
-    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte},
-    // 1 = video summary, 2 = video message.
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
+    {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
+     ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
+     ast_dataitem_240_010_encode_ex, ast_dataitem_240_010_decode_ex},
+    // 1 = video summary, 2 = video message; read and written as the common
+    // message type, summarised by the category.
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail, ast_dataitem_240_000_encode_ex,
+     ast_dataitem_240_000_decode_ex},
     // Message sequence identifier, 32 bits.
     {20, "Video Record Header", ast_dataitem_get_size_fixed_4_byte},
     // REP characters of free text.
@@ -27,9 +38,12 @@ constexpr ItemRow kRows[] = {
     {50, "Video Block Low Data Volume", ast_dataitem_get_size_rep_4_byte},
     {51, "Video Block Medium Data Volume", ast_dataitem_get_size_rep_64_byte},
     {52, "Video Block High Data Volume", ast_dataitem_get_size_rep_256_byte},
-    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte},
-    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size},
-    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size},
+    {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
+     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_240_140_encode_ex, ast_dataitem_240_140_decode_ex},
+    {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_240_REF_decode_ex},
+    {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_240_SPF_decode_ex},
 };
 
 }  // namespace

@@ -1,0 +1,24 @@
+// CAT002 items served by the common items: their structured decode and
+// encode entry points. Each decodes into (or encodes from) the common
+// item's own structure.
+#include "items/item_ex.h"
+#include "kovrel/cat002.h"
+#include "kovrel/items.h"
+
+KOVREL_DECODE_EX(002_000, AstMessageType, ast_dataitem_message_type_decode)
+KOVREL_ENCODE_EX(002_000, AstMessageType, ast_dataitem_message_type_encode)
+
+KOVREL_DECODE_EX(002_010, AstDataSourceIdentifier, ast_dataitem_data_source_identifier_decode)
+KOVREL_ENCODE_EX(002_010, AstDataSourceIdentifier, ast_dataitem_data_source_identifier_encode)
+
+KOVREL_DECODE_EX(002_020, AstSectorNumber, ast_dataitem_sector_number_decode)
+KOVREL_ENCODE_EX(002_020, AstSectorNumber, ast_dataitem_sector_number_encode)
+
+KOVREL_DECODE_EX(002_030, AstTimeOfDay, ast_dataitem_time_of_day_decode)
+KOVREL_ENCODE_EX(002_030, AstTimeOfDay, ast_dataitem_time_of_day_encode)
+
+KOVREL_DECODE_EX(002_041, AstAntennaRotationPeriod, ast_dataitem_antenna_rotation_period_decode)
+KOVREL_ENCODE_EX(002_041, AstAntennaRotationPeriod, ast_dataitem_antenna_rotation_period_encode)
+
+KOVREL_DECODE_EX(002_SPF, AstSpecialPurposeField, ast_dataitem_special_purpose_field_decode)
+KOVREL_DECODE_EX(002_RFS, AstRandomFieldSequencing, ast_dataitem_random_field_sequencing_decode)
