@@ -1,11 +1,11 @@
 // Aircraft identification: eight six-bit ICAO characters in 6 octets.
-#include "items/mode_common.h"
+#include "items/item_support.h"
 #include "kovrel/items_mode.h"
 
 namespace {
 
 using kovrel::TextWriter;
-namespace mode = kovrel::mode;
+namespace items = kovrel::items;
 
 constexpr uint64_t kLength = 6;
 
@@ -25,35 +25,31 @@ KOVREL_API void ast_dataitem_aircraft_id_init(AstAircraftId *out) {
 KOVREL_API void ast_dataitem_aircraft_id_decode(AstAircraftId *out, const AstDataItem *item) {
     if (!out) return;
     *out = AstAircraftId{};
-    if (!mode::span_ok(item, kLength)) return;
-    mode::chars_decode(out->chars, item->data);
+    if (!items::span_ok(item, kLength)) return;
+    items::chars_decode(out->chars, item->data);
     out->valid = 1;
 }
 
 KOVREL_API void ast_dataitem_aircraft_id_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                 const AstAircraftId *in) {
-    if (!mode::encode_start(out, buffer, size, kLength)) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
     if (!in || in->valid != 1) return;
-    mode::chars_encode(buffer, in->chars);
-    mode::encode_done(out, buffer, kLength);
+    items::chars_encode(buffer, in->chars);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_aircraft_id_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstAircraftId a;
-    ast_dataitem_aircraft_id_decode(&a, item);
-    if (a.valid != 1) return;
-    w.appendf("ACID:%s", a.chars);
+    items::describe(buffer, size, item, ast_dataitem_aircraft_id_decode,
+                    [](TextWriter &w, const auto &a) { w.appendf("ACID:%s", a.chars); });
 }
 
 KOVREL_API void ast_dataitem_aircraft_id_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstAircraftId a;
-    ast_dataitem_aircraft_id_decode(&a, item);
-    if (a.valid != 1) return;
-    mode::table_begin(w);
-    mode::char_rows(w, a.chars, kCharBits);
-    mode::table_end(w);
+    items::describe(buffer, size, item, ast_dataitem_aircraft_id_decode, [](TextWriter &w, const auto &a) {
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        t.char_rows(a.chars, kCharBits);
+        t.end();
+    });
 }
 
 }  // extern "C"

@@ -1,9 +1,11 @@
 // Register 0,5: extended squitter airborne position.
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
 
-namespace kovrel {
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 constexpr const char *kSurveillanceStatus[] = {"NO_CONDITION", "PERMANENT_ALERT", "TEMPORARY_ALERT", "SPI_CONDITION"};
 
@@ -11,17 +13,16 @@ constexpr const char *kSurveillanceStatus[] = {"NO_CONDITION", "PERMANENT_ALERT"
 bool airborne_position_code(uint32_t tc) { return (tc >= 9 && tc <= 18) || (tc >= 20 && tc <= 22); }
 
 }  // namespace
-}  // namespace kovrel
 
 extern "C" {
 
 KOVREL_API AstBds05 ast_bds_05_decode(const AstDataItem *reg) {
     AstBds05 r{};
-    const uint8_t *octets = kovrel::bds_octets(reg, 0x05);
+    const uint8_t *octets = items::bds_octets(reg, 0x05);
     if (!octets) return r;
-    const kovrel::MbBits mb(octets);
+    const items::MbBits mb(octets);
     r.type_code = mb.field(1, 5);
-    if (!kovrel::airborne_position_code(r.type_code)) return r;
+    if (!airborne_position_code(r.type_code)) return r;
     r.gnss_height = r.type_code >= 20 ? 1 : 0;
     r.surveillance_status = mb.field(6, 2);
     r.single_antenna = mb.bit(8);
@@ -39,20 +40,20 @@ KOVREL_API AstBds05 ast_bds_05_decode(const AstDataItem *reg) {
 }
 
 KOVREL_API void ast_bds_05_get_detail_html(char *buffer, size_t size, const AstDataItem *reg) {
-    kovrel::BdsTable t(buffer, size);
-    const AstBds05 r = ast_bds_05_decode(reg);
-    if (r.valid != 1) return;
-    t.begin(false);
-    t.rowf("Format Type Code", "%d", static_cast<int>(r.type_code));
-    t.row("Surveillance Status", kovrel::kSurveillanceStatus[r.surveillance_status & 3u]);
-    t.rowf("NIC Supplement-B", "%d", r.single_antenna);
-    t.row("Altitude Source", r.gnss_height ? "GNSS" : "BARO");
-    t.rowf("Altitude", "%d", r.altitude);
-    t.rowf("Time", "%d", r.time_flag);
-    t.row("CPR Format", r.cpr_format ? "ODD" : "EVEN");
-    t.rowf("CPR Encoded Latitude", "%d", static_cast<int>(r.cpr_latitude));
-    t.rowf("CPR Encoded Longitude", "%d", static_cast<int>(r.cpr_longitude));
-    t.end();
+    items::describe(buffer, size, reg, ast_bds_05_decode, [](TextWriter &w, const auto &r) {
+        items::DetailTable t(w);
+        t.header("Item", "Value");
+        t.valuef("Format Type Code", "%d", static_cast<int>(r.type_code));
+        t.row("Surveillance Status", kSurveillanceStatus[r.surveillance_status & 3u]);
+        t.valuef("NIC Supplement-B", "%d", r.single_antenna);
+        t.row("Altitude Source", r.gnss_height ? "GNSS" : "BARO");
+        t.valuef("Altitude", "%d", r.altitude);
+        t.valuef("Time", "%d", r.time_flag);
+        t.row("CPR Format", r.cpr_format ? "ODD" : "EVEN");
+        t.valuef("CPR Encoded Latitude", "%d", static_cast<int>(r.cpr_latitude));
+        t.valuef("CPR Encoded Longitude", "%d", static_cast<int>(r.cpr_longitude));
+        t.end();
+    });
 }
 
 }  // extern "C"

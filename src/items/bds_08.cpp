@@ -1,10 +1,12 @@
 // Register 0,8: extended squitter aircraft identification and category.
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
 #include "kovrel/enums.h"
 
-namespace kovrel {
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 // Type codes 1-4 name the emitter category sets D, C, B and A.
 const char *category_set_name(uint32_t tc) {
@@ -37,32 +39,31 @@ uint32_t emitter_category(uint32_t tc, uint32_t category) {
 }
 
 }  // namespace
-}  // namespace kovrel
 
 extern "C" {
 
 KOVREL_API AstBds08 ast_bds_08_decode(const AstDataItem *reg) {
     AstBds08 r{};
-    const uint8_t *octets = kovrel::bds_octets(reg, 0x08);
+    const uint8_t *octets = items::bds_octets(reg, 0x08);
     if (!octets) return r;
-    const kovrel::MbBits mb(octets);
+    const items::MbBits mb(octets);
     r.type_code = mb.field(1, 5);
     r.category = mb.field(7, 2);
-    kovrel::bds_chars(mb, r.chars);
+    items::chars_decode(r.chars, octets + 1);
     r.valid = 1;
     return r;
 }
 
 KOVREL_API void ast_bds_08_get_detail_html(char *buffer, size_t size, const AstDataItem *reg) {
-    kovrel::BdsTable t(buffer, size);
-    const AstBds08 r = ast_bds_08_decode(reg);
-    if (r.valid != 1) return;
-    t.begin(false);
-    t.rowf("Format Type Code", "%d", static_cast<int>(r.type_code));
-    t.row("Emitter Category Set", kovrel::category_set_name(r.type_code));
-    t.row("Emitter Category", ast_emitter_category_to_str(kovrel::emitter_category(r.type_code, r.category), 0));
-    t.char_rows(r.chars);
-    t.end();
+    items::describe(buffer, size, reg, ast_bds_08_decode, [](TextWriter &w, const auto &r) {
+        items::DetailTable t(w);
+        t.header("Item", "Value");
+        t.valuef("Format Type Code", "%d", static_cast<int>(r.type_code));
+        t.row("Emitter Category Set", category_set_name(r.type_code));
+        t.row("Emitter Category", ast_emitter_category_to_str(emitter_category(r.type_code, r.category), 0));
+        t.char_rows(r.chars);
+        t.end();
+    });
 }
 
 }  // extern "C"

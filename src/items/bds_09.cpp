@@ -1,14 +1,21 @@
 // Register 0,9: extended squitter airborne velocity.
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
+
+namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
+
+}  // namespace
 
 extern "C" {
 
 KOVREL_API AstBds09 ast_bds_09_decode(const AstDataItem *reg) {
     AstBds09 r{};
-    const uint8_t *octets = kovrel::bds_octets(reg, 0x09);
+    const uint8_t *octets = items::bds_octets(reg, 0x09);
     if (!octets) return r;
-    const kovrel::MbBits mb(octets);
+    const items::MbBits mb(octets);
     const uint32_t tc = mb.field(1, 5);
     const uint32_t subtype = mb.field(6, 3);
     if (tc != 19 || subtype < 1 || subtype > 4) return r;
@@ -48,27 +55,27 @@ KOVREL_API AstBds09 ast_bds_09_decode(const AstDataItem *reg) {
 }
 
 KOVREL_API void ast_bds_09_get_detail_html(char *buffer, size_t size, const AstDataItem *reg) {
-    kovrel::BdsTable t(buffer, size);
-    const AstBds09 r = ast_bds_09_decode(reg);
-    if (r.valid != 1) return;
-    t.begin(false);
-    t.rowf("Format Type Code", "%d", static_cast<int>(r.type_code));
-    t.rowf("Subtype", "%d", static_cast<int>(r.subtype));
-    t.rowf("Intent Change Flag", "%d", r.intent_change);
-    t.rowf("NACv", "%d", static_cast<int>(r.nac));
-    t.rowf("Ground Speed Valid", "%d", r.velocity_present);
-    t.rowf("Ground Speed Direction E-W", "%d", r.ew_direction);
-    t.rowf("Ground Speed E-W", "%u", static_cast<unsigned>(r.ew_speed));
-    t.rowf("Ground Speed Direction N-S", "%d", r.ns_direction);
-    t.rowf("Ground Speed N-S", "%u", static_cast<unsigned>(r.ns_speed));
-    t.row("Vertical Rate Source", r.vertical_rate_source ? "BARO" : "GEOMETRIC");
-    t.row("Vertical Rate Sign", r.vertical_rate_sign ? "DOWN" : "UP");
-    t.rowf("Vertical Rate Valid", "%d", r.vertical_rate_present);
-    t.rowf("Vertical Rate", "%d", r.vertical_rate);
-    t.row("Geometric Height Difference Sign", r.height_diff_sign ? "BELOW_BARO" : "ABOVE_BARO");
-    t.rowf("Geometric Height Difference Valid", "%d", r.height_diff_present);
-    t.rowf("Geometric Height Difference", "%d", r.height_diff);
-    t.end();
+    items::describe(buffer, size, reg, ast_bds_09_decode, [](TextWriter &w, const auto &r) {
+        items::DetailTable t(w);
+        t.header("Item", "Value");
+        t.valuef("Format Type Code", "%d", static_cast<int>(r.type_code));
+        t.valuef("Subtype", "%d", static_cast<int>(r.subtype));
+        t.valuef("Intent Change Flag", "%d", r.intent_change);
+        t.valuef("NACv", "%d", static_cast<int>(r.nac));
+        t.valuef("Ground Speed Valid", "%d", r.velocity_present);
+        t.valuef("Ground Speed Direction E-W", "%d", r.ew_direction);
+        t.valuef("Ground Speed E-W", "%u", static_cast<unsigned>(r.ew_speed));
+        t.valuef("Ground Speed Direction N-S", "%d", r.ns_direction);
+        t.valuef("Ground Speed N-S", "%u", static_cast<unsigned>(r.ns_speed));
+        t.row("Vertical Rate Source", r.vertical_rate_source ? "BARO" : "GEOMETRIC");
+        t.row("Vertical Rate Sign", r.vertical_rate_sign ? "DOWN" : "UP");
+        t.valuef("Vertical Rate Valid", "%d", r.vertical_rate_present);
+        t.valuef("Vertical Rate", "%d", r.vertical_rate);
+        t.row("Geometric Height Difference Sign", r.height_diff_sign ? "BELOW_BARO" : "ABOVE_BARO");
+        t.valuef("Geometric Height Difference Valid", "%d", r.height_diff_present);
+        t.valuef("Geometric Height Difference", "%d", r.height_diff);
+        t.end();
+    });
 }
 
 }  // extern "C"

@@ -1,9 +1,11 @@
 // Register 1,0: data link capability report.
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
 
-namespace kovrel {
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 template <size_t N>
 const char *name_or_unassigned(const char *const (&names)[N], uint32_t value) {
@@ -33,16 +35,15 @@ constexpr const char *kDelmThroughput[] = {
 };
 
 }  // namespace
-}  // namespace kovrel
 
 extern "C" {
 
 // The first MB octet (the register's own code) is not checked.
 KOVREL_API AstBds10 ast_bds_10_decode(const AstDataItem *reg) {
     AstBds10 r{};
-    const uint8_t *octets = kovrel::bds_octets(reg, 0x10);
+    const uint8_t *octets = items::bds_octets(reg, 0x10);
     if (!octets) return r;
-    const kovrel::MbBits mb(octets);
+    const items::MbBits mb(octets);
     r.continuation = mb.bit(9);
     r.overlay_command_capability = mb.bit(16);
     r.subnetwork_version = mb.field(17, 7);
@@ -59,24 +60,22 @@ KOVREL_API AstBds10 ast_bds_10_decode(const AstDataItem *reg) {
 }
 
 KOVREL_API void ast_bds_10_get_detail_html(char *buffer, size_t size, const AstDataItem *reg) {
-    kovrel::BdsTable t(buffer, size);
-    const AstBds10 r = ast_bds_10_decode(reg);
-    if (r.valid != 1) return;
-    t.begin(false);
-    t.rowf("Continuation Flag", "%d", r.continuation);
-    t.rowf("TCAS Interface Operational", "%d", r.overlay_command_capability);
-    t.row("Mode-S Subnetwork Version Number",
-          kovrel::name_or_unassigned(kovrel::kSubnetworkVersions, r.subnetwork_version));
-    t.row("Transponder Enhanced Protocol Indicator", r.enhanced_protocol ? "LEVEL 5" : "LEVEL 2-4");
-    t.rowf("Mode-S Specific Services Capability", "%d", r.specific_services);
-    t.row("Uplink ELM Average Throughput Capability",
-          kovrel::name_or_unassigned(kovrel::kUelmThroughput, r.uelm_throughput));
-    t.row("Downlink ELM Throughput Capability", kovrel::name_or_unassigned(kovrel::kDelmThroughput, r.delm_throughput));
-    t.rowf("Aircraft Identification Capability", "%d", r.aircraft_ident_capability);
-    t.rowf("Squitter Capability Subfield (SCS)", "%d", r.squitter_capability);
-    t.rowf("Surveillance Identifier Code (SIC)", "%d", r.sic_capability);
-    t.rowf("Common Usage GICB Capability Report", "%d", r.gicb_capability);
-    t.end();
+    items::describe(buffer, size, reg, ast_bds_10_decode, [](TextWriter &w, const auto &r) {
+        items::DetailTable t(w);
+        t.header("Item", "Value");
+        t.valuef("Continuation Flag", "%d", r.continuation);
+        t.valuef("TCAS Interface Operational", "%d", r.overlay_command_capability);
+        t.row("Mode-S Subnetwork Version Number", name_or_unassigned(kSubnetworkVersions, r.subnetwork_version));
+        t.row("Transponder Enhanced Protocol Indicator", r.enhanced_protocol ? "LEVEL 5" : "LEVEL 2-4");
+        t.valuef("Mode-S Specific Services Capability", "%d", r.specific_services);
+        t.row("Uplink ELM Average Throughput Capability", name_or_unassigned(kUelmThroughput, r.uelm_throughput));
+        t.row("Downlink ELM Throughput Capability", name_or_unassigned(kDelmThroughput, r.delm_throughput));
+        t.valuef("Aircraft Identification Capability", "%d", r.aircraft_ident_capability);
+        t.valuef("Squitter Capability Subfield (SCS)", "%d", r.squitter_capability);
+        t.valuef("Surveillance Identifier Code (SIC)", "%d", r.sic_capability);
+        t.valuef("Common Usage GICB Capability Report", "%d", r.gicb_capability);
+        t.end();
+    });
 }
 
 }  // extern "C"

@@ -1,9 +1,11 @@
 // Register 3,0: ACAS active resolution advisory.
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
 
-namespace kovrel {
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 constexpr uint32_t kThreatModeS = 1;
 constexpr uint32_t kThreatNotModeS = 2;
@@ -17,7 +19,6 @@ const char *threat_type_name(uint32_t tti) {
 }
 
 }  // namespace
-}  // namespace kovrel
 
 extern "C" {
 
@@ -25,22 +26,22 @@ extern "C" {
 // reports whose first octet holds a message type instead.
 KOVREL_API AstBds30 ast_bds_30_decode(const AstDataItem *reg) {
     AstBds30 r{};
-    const uint8_t *octets = kovrel::bds_octets(reg, 0x30);
+    const uint8_t *octets = items::bds_octets(reg, 0x30);
     if (!octets) return r;
-    const kovrel::MbBits mb(octets);
+    const items::MbBits mb(octets);
     r.ara_present = mb.field(9, 14) != 0 ? 1 : 0;
     r.rac_present = mb.field(23, 4) != 0 ? 1 : 0;
     r.ra_terminated = mb.bit(27);
     r.multiple_threat = mb.bit(28);
     const uint32_t tti = mb.field(29, 2);
-    if (tti == kovrel::kThreatModeS) {
+    if (tti == kThreatModeS) {
         // The threat's 24-bit Mode S address, bits 31-54.
         const uint32_t tid = mb.field(31, 24);
         r.tid[0] = static_cast<uint8_t>(tid >> 16);
         r.tid[1] = static_cast<uint8_t>(tid >> 8);
         r.tid[2] = static_cast<uint8_t>(tid);
         r.threat_type = tti;
-    } else if (tti == kovrel::kThreatNotModeS) {
+    } else if (tti == kThreatNotModeS) {
         // Altitude, range and bearing of a threat without Mode S are not decoded.
         r.threat_type = tti;
     }
@@ -49,17 +50,17 @@ KOVREL_API AstBds30 ast_bds_30_decode(const AstDataItem *reg) {
 }
 
 KOVREL_API void ast_bds_30_get_detail_html(char *buffer, size_t size, const AstDataItem *reg) {
-    kovrel::BdsTable t(buffer, size);
-    const AstBds30 r = ast_bds_30_decode(reg);
-    if (r.valid != 1) return;
-    t.begin(false);
-    t.rowf("Active Resolution Advisories (ARA)", "%d", r.ara_present);
-    t.rowf("Resolution Advisory Complements (RAC)", "%d", r.rac_present);
-    t.row("Resolution Advisory Terminated Indicator (RAT)", r.ra_terminated ? "TRUE" : "FALSE");
-    t.rowf("Multiple Threat Encounter (MTE)", "%d", r.multiple_threat);
-    t.row("Threat Type Indicator (TTI)", kovrel::threat_type_name(r.threat_type));
-    t.rowf("Threat Mode-S Address", "%.2X%.2X%.2X", r.tid[0], r.tid[1], r.tid[2]);
-    t.end();
+    items::describe(buffer, size, reg, ast_bds_30_decode, [](TextWriter &w, const auto &r) {
+        items::DetailTable t(w);
+        t.header("Item", "Value");
+        t.valuef("Active Resolution Advisories (ARA)", "%d", r.ara_present);
+        t.valuef("Resolution Advisory Complements (RAC)", "%d", r.rac_present);
+        t.row("Resolution Advisory Terminated Indicator (RAT)", r.ra_terminated ? "TRUE" : "FALSE");
+        t.valuef("Multiple Threat Encounter (MTE)", "%d", r.multiple_threat);
+        t.row("Threat Type Indicator (TTI)", threat_type_name(r.threat_type));
+        t.valuef("Threat Mode-S Address", "%.2X%.2X%.2X", r.tid[0], r.tid[1], r.tid[2]);
+        t.end();
+    });
 }
 
 }  // extern "C"

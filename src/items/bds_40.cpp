@@ -1,15 +1,22 @@
 // Register 4,0: selected vertical intention.
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
 #include "kovrel/enums.h"
+
+namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
+
+}  // namespace
 
 extern "C" {
 
 KOVREL_API AstBds40 ast_bds_40_decode(const AstDataItem *reg) {
     AstBds40 r{};
-    const uint8_t *octets = kovrel::bds_octets(reg, 0x40);
+    const uint8_t *octets = items::bds_octets(reg, 0x40);
     if (!octets) return r;
-    const kovrel::MbBits mb(octets);
+    const items::MbBits mb(octets);
     if ((r.mcp_alt_status = mb.bit(1))) r.mcp_alt = mb.field(2, 12) * 16;
     if ((r.fms_alt_status = mb.bit(14))) r.fms_alt = mb.field(15, 12) * 16;
     if ((r.baro_setting_status = mb.bit(27))) r.baro_setting = mb.field(28, 12) * 0.1 + 800.0;
@@ -24,19 +31,19 @@ KOVREL_API AstBds40 ast_bds_40_decode(const AstDataItem *reg) {
 }
 
 KOVREL_API void ast_bds_40_get_detail_html(char *buffer, size_t size, const AstDataItem *reg) {
-    kovrel::BdsTable t(buffer, size);
-    const AstBds40 r = ast_bds_40_decode(reg);
-    if (r.valid != 1) return;
-    t.begin(true);
-    t.status_row("MCP/FCU Selected Altitude", r.mcp_alt_status, "%d FT", static_cast<int>(r.mcp_alt));
-    t.status_row("FMS Selected Altitude", r.fms_alt_status, "%d FT", static_cast<int>(r.fms_alt));
-    t.status_row("Barometric Pressure Setting", r.baro_setting_status, "%.1f MB", r.baro_setting);
-    t.status_row("Vnav Mode", r.mode_status, "%d", r.vnav_mode);
-    t.status_row("Alt Hold Mode", r.mode_status, "%d", r.alt_hold_mode);
-    t.status_row("Approach Mode", r.mode_status, "%d", r.approach_mode);
-    t.status_row("Target Altitude Source", r.target_alt_source_status, "%s",
-                 ast_selected_altitude_source_to_str(r.target_alt_source, 0));
-    t.end();
+    items::describe(buffer, size, reg, ast_bds_40_decode, [](TextWriter &w, const auto &r) {
+        items::DetailTable t(w);
+        t.header("Item", "Status", "Value");
+        items::status_row(t, "MCP/FCU Selected Altitude", r.mcp_alt_status, "%d FT", static_cast<int>(r.mcp_alt));
+        items::status_row(t, "FMS Selected Altitude", r.fms_alt_status, "%d FT", static_cast<int>(r.fms_alt));
+        items::status_row(t, "Barometric Pressure Setting", r.baro_setting_status, "%.1f MB", r.baro_setting);
+        items::status_row(t, "Vnav Mode", r.mode_status, "%d", r.vnav_mode);
+        items::status_row(t, "Alt Hold Mode", r.mode_status, "%d", r.alt_hold_mode);
+        items::status_row(t, "Approach Mode", r.mode_status, "%d", r.approach_mode);
+        items::status_row(t, "Target Altitude Source", r.target_alt_source_status, "%s",
+                          ast_selected_altitude_source_to_str(r.target_alt_source, 0));
+        t.end();
+    });
 }
 
 }  // extern "C"

@@ -3,16 +3,23 @@
 // The signed fields are read as a sign bit and a magnitude rather than as
 // two's complement numbers; existing consumers depend on these values, so
 // the reading is kept.
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
+
+namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
+
+}  // namespace
 
 extern "C" {
 
 KOVREL_API AstBds50 ast_bds_50_decode(const AstDataItem *reg) {
     AstBds50 r{};
-    const uint8_t *octets = kovrel::bds_octets(reg, 0x50);
+    const uint8_t *octets = items::bds_octets(reg, 0x50);
     if (!octets) return r;
-    const kovrel::MbBits mb(octets);
+    const items::MbBits mb(octets);
     if ((r.roll_angle_status = mb.bit(1))) {
         const double roll = mb.field(3, 9) * 45.0 / 256.0;
         r.roll_angle = mb.bit(2) ? -roll : roll;
@@ -32,16 +39,16 @@ KOVREL_API AstBds50 ast_bds_50_decode(const AstDataItem *reg) {
 }
 
 KOVREL_API void ast_bds_50_get_detail_html(char *buffer, size_t size, const AstDataItem *reg) {
-    kovrel::BdsTable t(buffer, size);
-    const AstBds50 r = ast_bds_50_decode(reg);
-    if (r.valid != 1) return;
-    t.begin(true);
-    t.status_row("Roll Angle", r.roll_angle_status, "%.2f DEG", r.roll_angle);
-    t.status_row("True Track Angle", r.true_track_status, "%.2f DEG", r.true_track);
-    t.status_row("Ground Speed", r.ground_speed_status, "%.2f KNOT", r.ground_speed);
-    t.status_row("Track Angle Rate", r.track_rate_status, "%.2f DEG/SEC", r.track_rate);
-    t.status_row("True Airspeed", r.true_airspeed_status, "%d KNOTS", static_cast<int>(r.true_airspeed));
-    t.end();
+    items::describe(buffer, size, reg, ast_bds_50_decode, [](TextWriter &w, const auto &r) {
+        items::DetailTable t(w);
+        t.header("Item", "Status", "Value");
+        items::status_row(t, "Roll Angle", r.roll_angle_status, "%.2f DEG", r.roll_angle);
+        items::status_row(t, "True Track Angle", r.true_track_status, "%.2f DEG", r.true_track);
+        items::status_row(t, "Ground Speed", r.ground_speed_status, "%.2f KNOT", r.ground_speed);
+        items::status_row(t, "Track Angle Rate", r.track_rate_status, "%.2f DEG/SEC", r.track_rate);
+        items::status_row(t, "True Airspeed", r.true_airspeed_status, "%d KNOTS", static_cast<int>(r.true_airspeed));
+        t.end();
+    });
 }
 
 }  // extern "C"

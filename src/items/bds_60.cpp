@@ -3,54 +3,55 @@
 // The signed fields are read as a sign bit and a magnitude rather than as
 // two's complement numbers; existing consumers depend on these values, so
 // the reading is kept.
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
 
-namespace kovrel {
 namespace {
 
+using kovrel::TextWriter;
+namespace items = kovrel::items;
+
 // Sign bit at MB bit `sign`, 9-bit magnitude behind it, 32 ft/min steps.
-double signed_rate(const MbBits &mb, int sign) {
+double signed_rate(const items::MbBits &mb, int sign) {
     const double rate = mb.field(sign + 1, 9) * 32.0;
     return mb.bit(sign) ? -rate : rate;
 }
 
 }  // namespace
-}  // namespace kovrel
 
 extern "C" {
 
 KOVREL_API AstBds60 ast_bds_60_decode(const AstDataItem *reg) {
     AstBds60 r{};
-    const uint8_t *octets = kovrel::bds_octets(reg, 0x60);
+    const uint8_t *octets = items::bds_octets(reg, 0x60);
     if (!octets) return r;
-    const kovrel::MbBits mb(octets);
+    const items::MbBits mb(octets);
     if ((r.magnetic_heading_status = mb.bit(1))) {
         const double heading = mb.field(3, 10) * 90.0 / 512.0;
         r.magnetic_heading = mb.bit(2) ? heading + 180.0 : heading;
     }
     if ((r.indicated_airspeed_status = mb.bit(13))) r.indicated_airspeed = mb.field(14, 10);
     if ((r.mach_status = mb.bit(24))) r.mach = mb.field(25, 10) * 2.048 / 512.0;
-    if ((r.baro_alt_rate_status = mb.bit(35))) r.baro_alt_rate = kovrel::signed_rate(mb, 36);
-    if ((r.inertial_vv_status = mb.bit(46))) r.inertial_vv = kovrel::signed_rate(mb, 47);
+    if ((r.baro_alt_rate_status = mb.bit(35))) r.baro_alt_rate = signed_rate(mb, 36);
+    if ((r.inertial_vv_status = mb.bit(46))) r.inertial_vv = signed_rate(mb, 47);
     r.valid = 1;
     return r;
 }
 
 KOVREL_API void ast_bds_60_get_detail_html(char *buffer, size_t size, const AstDataItem *reg) {
-    kovrel::BdsTable t(buffer, size);
-    const AstBds60 r = ast_bds_60_decode(reg);
-    if (r.valid != 1) return;
-    t.begin(true);
-    t.status_row("Magnetic Heading", r.magnetic_heading_status, "%.2f DEG", r.magnetic_heading);
-    // "%.d" prints nothing for 0 knots; existing consumers see it that way.
-    t.status_row("Indicated Airspeed", r.indicated_airspeed_status, "%.d KNOT",
-                 static_cast<int>(r.indicated_airspeed));
-    t.status_row("Mach", r.mach_status, "%.2f MACH", r.mach);
-    t.status_row("Barometric Altitude Rate", r.baro_alt_rate_status, "%.2f FEET/MIN", r.baro_alt_rate);
-    // "Intertial" is spelled as existing consumers have always seen it.
-    t.status_row("Intertial Vertical Velocity", r.inertial_vv_status, "%.2f FEET/MIN", r.inertial_vv);
-    t.end();
+    items::describe(buffer, size, reg, ast_bds_60_decode, [](TextWriter &w, const auto &r) {
+        items::DetailTable t(w);
+        t.header("Item", "Status", "Value");
+        items::status_row(t, "Magnetic Heading", r.magnetic_heading_status, "%.2f DEG", r.magnetic_heading);
+        // "%.d" prints nothing for 0 knots; existing consumers see it that way.
+        items::status_row(t, "Indicated Airspeed", r.indicated_airspeed_status, "%.d KNOT",
+                          static_cast<int>(r.indicated_airspeed));
+        items::status_row(t, "Mach", r.mach_status, "%.2f MACH", r.mach);
+        items::status_row(t, "Barometric Altitude Rate", r.baro_alt_rate_status, "%.2f FEET/MIN", r.baro_alt_rate);
+        // "Intertial" is spelled as existing consumers have always seen it.
+        items::status_row(t, "Intertial Vertical Velocity", r.inertial_vv_status, "%.2f FEET/MIN", r.inertial_vv);
+        t.end();
+    });
 }
 
 }  // extern "C"

@@ -1,18 +1,13 @@
 // Mode S registers: the register span, its code as text, its name, the
-// dispatch to the register views, and the table writer the views share.
+// dispatch to the register views, and the status rows the views share.
 #include <cstdarg>
-#include <cstdio>
 
-#include "items/bds_internal.h"
+#include "items/bds_support.h"
 #include "kovrel/bds.h"
-#include "kovrel/codec.h"
 #include "kovrel/core.h"
-#include "kovrel/html.h"
 
 namespace kovrel {
 namespace {
-
-constexpr size_t kMbLength = 7;
 
 struct BdsName {
     uint32_t code;
@@ -61,75 +56,28 @@ char *code_text(char *buffer, size_t size, uint32_t code, const char *prefix) {
 
 }  // namespace
 
-const uint8_t *bds_octets(const AstDataItem *reg, uint32_t code) {
-    if (!reg || reg->valid != 1 || !reg->data || reg->id != code || reg->length != kMbLength) return nullptr;
-    return reg->data;
-}
+namespace items {
 
-void bds_chars(const MbBits &mb, char (&chars)[9]) {
-    for (int i = 0; i < 8; ++i) chars[i] = ast_icao_to_ansi(static_cast<int>(mb.field(9 + 6 * i, 6)));
-    chars[8] = '\0';
-}
-
-void BdsTable::begin(bool with_status) {
-    ast_html_gen_table_begin(w_.end(), w_.end_size());
-    w_.resync();
-    if (with_status)
-        ast_html_gen_table_row(w_.end(), w_.end_size(), 1, "Item", "Status", "Value", AST_HTML_TABLE_END_OF_ROW);
-    else
-        ast_html_gen_table_row(w_.end(), w_.end_size(), 1, "Item", "Value", AST_HTML_TABLE_END_OF_ROW);
-    w_.resync();
-}
-
-void BdsTable::row(const char *label, const char *value) {
-    ast_html_gen_table_row(w_.end(), w_.end_size(), 0, label, value, AST_HTML_TABLE_END_OF_ROW);
-    w_.resync();
-}
-
-void BdsTable::rowf(const char *label, const char *format, ...) {
-    char value[96];
+void status_row(DetailTable &table, const char *label, bool valid, const char *format, ...) {
+    if (!valid) {
+        table.row(label, "invalid", "--");
+        return;
+    }
     va_list ap;
     va_start(ap, format);
-    std::vsnprintf(value, sizeof value, format, ap);
+    table.vrowf(label, "valid", format, ap);
     va_end(ap);
-    row(label, value);
 }
 
-void BdsTable::status_row(const char *label, bool valid, const char *format, ...) {
-    char value[96] = "--";
-    if (valid) {
-        va_list ap;
-        va_start(ap, format);
-        std::vsnprintf(value, sizeof value, format, ap);
-        va_end(ap);
-    }
-    ast_html_gen_table_row(w_.end(), w_.end_size(), 0, label, valid ? "valid" : "invalid", value,
-                           AST_HTML_TABLE_END_OF_ROW);
-    w_.resync();
-}
-
-void BdsTable::char_rows(const char (&chars)[9]) {
-    for (int i = 0; i < 8; ++i) {
-        char label[8];
-        const char value[2] = {chars[i], '\0'};
-        std::snprintf(label, sizeof label, "CHAR_%d", i + 1);
-        row(label, value);
-    }
-}
-
-void BdsTable::end() {
-    ast_html_gen_table_end(w_.end(), w_.end_size());
-    w_.resync();
-}
-
+}  // namespace items
 }  // namespace kovrel
 
 extern "C" {
 
 KOVREL_API void ast_bds_decode(AstDataItem *out, const uint8_t *mb, size_t count, uint32_t code) {
     if (!out) return;
-    const bool valid = mb && count >= kovrel::kMbLength;
-    *out = AstDataItem{mb, kovrel::kMbLength, code, static_cast<uint8_t>(valid ? 1 : 0)};
+    const bool valid = mb && count >= kovrel::items::kMbOctets;
+    *out = AstDataItem{mb, kovrel::items::kMbOctets, code, static_cast<uint8_t>(valid ? 1 : 0)};
 }
 
 KOVREL_API char *ast_bds_type_to_str_simple(char *buffer, size_t size, uint32_t code) {

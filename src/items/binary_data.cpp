@@ -1,5 +1,5 @@
 // Binary data: any item shown as its octets in binary digits.
-#include "core/text.h"
+#include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_mode.h"
 
@@ -7,7 +7,7 @@ extern "C" {
 
 KOVREL_API void ast_dataitem_binary_data_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     kovrel::TextWriter w(buffer, size);
-    if (!item || item->valid != 1 || !item->data || item->length == 0) return;
+    if (!kovrel::items::span_at_least(item, 1)) return;
     // Built as "BIN" and " %s" per octet, then the first blank becomes the
     // colon: "BIN:10100101 00000001".
     w.append("BIN");

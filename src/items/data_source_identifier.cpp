@@ -4,10 +4,13 @@
 #include <cstdio>
 
 #include "core/state.h"
-#include "items/ident_support.h"
+#include "items/item_support.h"
 #include "kovrel/items_ident.h"
 
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 constexpr uint64_t kLength = 2;
 
@@ -24,15 +27,20 @@ void country_text(char *dst, size_t size, const char (&name)[N], const char (&co
     std::snprintf(dst, size, "%.*s [%.*s]", static_cast<int>(N), name, static_cast<int>(M), code);
 }
 
-void sac_table(kovrel::ident::HtmlView &view, uint32_t sac) {
+// A code octet as the "Hex" and "Dec" cells of its table.
+struct CodeCells {
+    explicit CodeCells(uint32_t code) {
+        std::snprintf(hex, sizeof hex, "0x%.2X", static_cast<unsigned>(code));
+        std::snprintf(dec, sizeof dec, "%03d", static_cast<int>(code));
+    }
     char hex[8];
     char dec[16];
-    std::snprintf(hex, sizeof hex, "0x%.2X", static_cast<unsigned>(sac));
-    std::snprintf(dec, sizeof dec, "%03d", static_cast<int>(sac));
+};
 
-    view.title("System Area Code (SAC)");
-    view.table_begin();
-    view.header("Octet", "Name", "Hex", "Dec", "Region", "Country");
+void sac_table(items::DetailTable &t, uint32_t sac) {
+    const CodeCells code(sac);
+    t.title("System Area Code (SAC)");
+    t.header("Octet", "Name", "Hex", "Dec", "Region", "Country");
 
     bool shown = false;
     if (kovrel::g_sac_get_info) {
@@ -46,24 +54,18 @@ void sac_table(kovrel::ident::HtmlView &view, uint32_t sac) {
             char country[128];
             field_text(region, sizeof region, e.region);
             country_text(country, sizeof country, e.country_name, e.country_code);
-            view.row("Octet[1]", "SAC", hex, dec, region, country);
+            t.row("Octet[1]", "SAC", code.hex, code.dec, region, country);
             shown = true;
         }
     }
-    if (!shown) view.row("Octet[1]", "SAC", hex, dec, "Unknown Region", "Unknown Country");
-    view.table_end();
+    if (!shown) t.row("Octet[1]", "SAC", code.hex, code.dec, "Unknown Region", "Unknown Country");
+    t.end();
 }
 
-void sic_table(kovrel::ident::HtmlView &view, uint32_t sac, uint32_t sic) {
-    char hex[8];
-    char dec[16];
-    std::snprintf(hex, sizeof hex, "0x%.2X", static_cast<unsigned>(sic));
-    std::snprintf(dec, sizeof dec, "%03d", static_cast<int>(sic));
-
-    view.title("System Identification Code (SIC)");
-    view.table_begin();
-    view.header("Octet", "Name", "Hex", "Dec", "Country", "System", "Type", "Manufacturer", "Model",
-                "Description");
+void sic_table(items::DetailTable &t, uint32_t sac, uint32_t sic) {
+    const CodeCells code(sic);
+    t.title("System Identification Code (SIC)");
+    t.header("Octet", "Name", "Hex", "Dec", "Country", "System", "Type", "Manufacturer", "Model", "Description");
 
     bool shown = false;
     if (kovrel::g_sacsic_get_sensor) {
@@ -87,14 +89,14 @@ void sic_table(kovrel::ident::HtmlView &view, uint32_t sac, uint32_t sic) {
             field_text(manufacturer, sizeof manufacturer, e.manufacturer);
             field_text(model, sizeof model, e.model);
             field_text(description, sizeof description, e.description);
-            view.row("Octet[2]", "SIC", hex, dec, country, system, type, manufacturer, model, description);
+            t.row("Octet[2]", "SIC", code.hex, code.dec, country, system, type, manufacturer, model, description);
             shown = true;
         }
     }
     if (!shown)
-        view.row("Octet[2]", "SIC", hex, dec, "Unknown", "Unknown", "Unknown", "Unknown", "Unknown",
-                 "Unknown System");
-    view.table_end();
+        t.row("Octet[2]", "SIC", code.hex, code.dec, "Unknown", "Unknown", "Unknown", "Unknown", "Unknown",
+              "Unknown System");
+    t.end();
 }
 
 }  // namespace
@@ -108,7 +110,7 @@ KOVREL_API void ast_dataitem_data_source_identifier_init(AstDataSourceIdentifier
 KOVREL_API AstDataSourceIdentifier ast_dataitem_data_source_identifier_decode(const AstDataItem *item) {
     AstDataSourceIdentifier out;
     ast_dataitem_data_source_identifier_init(&out);
-    if (!kovrel::ident::span_ok(item, kLength)) return out;
+    if (!items::span_ok(item, kLength)) return out;
     out.sac = item->data[0];
     out.sic = item->data[1];
     out.valid = 1;
@@ -117,29 +119,27 @@ KOVREL_API AstDataSourceIdentifier ast_dataitem_data_source_identifier_decode(co
 
 KOVREL_API void ast_dataitem_data_source_identifier_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                            const AstDataSourceIdentifier *in) {
-    if (!out) return;
-    kovrel::ident::encode_failed(out, buffer);
-    if (!in || !buffer || size < kLength || in->valid != 1 || in->sac > 0xFF || in->sic > 0xFF) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
+    if (!in || in->valid != 1 || in->sac > 0xFF || in->sic > 0xFF) return;
     buffer[0] = static_cast<uint8_t>(in->sac);
     buffer[1] = static_cast<uint8_t>(in->sic);
-    kovrel::ident::encoded(out, buffer, kLength);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_data_source_identifier_get_summary(char *buffer, size_t size,
                                                                 const AstDataItem *item) {
-    kovrel::TextWriter w(buffer, size);
-    const AstDataSourceIdentifier dsi = ast_dataitem_data_source_identifier_decode(item);
-    if (!dsi.valid) return;
-    w.appendf("SAC:%03d SIC:%03d", static_cast<int>(dsi.sac), static_cast<int>(dsi.sic));
+    items::describe(buffer, size, item, ast_dataitem_data_source_identifier_decode, [](TextWriter &w, const auto &dsi) {
+        w.appendf("SAC:%03d SIC:%03d", static_cast<int>(dsi.sac), static_cast<int>(dsi.sic));
+    });
 }
 
 KOVREL_API void ast_dataitem_data_source_identifier_get_detail_html(char *buffer, size_t size,
                                                                     const AstDataItem *item) {
-    kovrel::ident::HtmlView view(buffer, size);
-    const AstDataSourceIdentifier dsi = ast_dataitem_data_source_identifier_decode(item);
-    if (!dsi.valid) return;
-    sac_table(view, dsi.sac);
-    sic_table(view, dsi.sac, dsi.sic);
+    items::describe(buffer, size, item, ast_dataitem_data_source_identifier_decode, [](TextWriter &w, const auto &dsi) {
+        items::DetailTable t(w);
+        sac_table(t, dsi.sac);
+        sic_table(t, dsi.sac, dsi.sic);
+    });
 }
 
 }  // extern "C"

@@ -1,7 +1,7 @@
 // Reserved expansion, special purpose and random field sequencing fields:
 // items whose first octet is their own length. Their contents belong to
 // agreements outside the category, so only the octets are handed out.
-#include "core/text.h"
+#include "items/item_support.h"
 #include "kovrel/items_mode.h"
 
 namespace {
@@ -19,7 +19,7 @@ void init(AstExplicitField *out) {
 void decode(AstExplicitField *out, const AstDataItem *item, uint32_t number) {
     if (!out) return;
     *out = AstExplicitField{};
-    if (!item || item->valid != 1 || !item->data || item->length < 1 || item->id % 1000 != number) return;
+    if (!kovrel::items::span_at_least(item, 1) || item->id % 1000 != number) return;
     out->length = item->length - 1;
     out->data = out->length > 0 ? item->data + 1 : nullptr;
     out->valid = 1;

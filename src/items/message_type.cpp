@@ -1,10 +1,14 @@
 // Message type: one octet whose meaning each category defines. Categories
 // print it through their own enumeration names, so there is no summary here.
-#include "items/ident_support.h"
+#include "items/item_support.h"
 #include "kovrel/items_ident.h"
 
 namespace {
+
+namespace items = kovrel::items;
+
 constexpr uint64_t kLength = 1;
+
 }  // namespace
 
 extern "C" {
@@ -16,7 +20,7 @@ KOVREL_API void ast_dataitem_message_type_init(AstMessageType *out) {
 KOVREL_API AstMessageType ast_dataitem_message_type_decode(const AstDataItem *item) {
     AstMessageType out;
     ast_dataitem_message_type_init(&out);
-    if (!kovrel::ident::span_ok(item, kLength)) return out;
+    if (!items::span_ok(item, kLength)) return out;
     out.value = item->data[0];
     out.valid = 1;
     return out;
@@ -24,11 +28,10 @@ KOVREL_API AstMessageType ast_dataitem_message_type_decode(const AstDataItem *it
 
 KOVREL_API void ast_dataitem_message_type_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                  const AstMessageType *in) {
-    if (!out) return;
-    kovrel::ident::encode_failed(out, buffer);
-    if (!in || !buffer || size < kLength || in->valid != 1 || in->value > 0xFF) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
+    if (!in || in->valid != 1 || in->value > 0xFF) return;
     buffer[0] = static_cast<uint8_t>(in->value);
-    kovrel::ident::encoded(out, buffer, kLength);
+    items::encode_done(out, buffer, kLength);
 }
 
 }  // extern "C"

@@ -1,11 +1,12 @@
 // Mode 3/A (and Mode 2) code and the Mode 3/A code confidence.
-#include "items/mode_common.h"
+#include "items/item_support.h"
+#include "items/mode_support.h"
 #include "kovrel/items_mode.h"
 
 namespace {
 
 using kovrel::TextWriter;
-namespace mode = kovrel::mode;
+namespace items = kovrel::items;
 
 constexpr uint64_t kLength = 2;
 
@@ -29,7 +30,7 @@ KOVREL_API void ast_dataitem_mode_3a_code_init(AstMode3aCode *out) {
 KOVREL_API void ast_dataitem_mode_3a_code_decode(AstMode3aCode *out, const AstDataItem *item) {
     if (!out) return;
     *out = AstMode3aCode{};
-    if (!mode::span_ok(item, kLength)) return;
+    if (!items::span_ok(item, kLength)) return;
     const uint8_t *p = item->data;
     out->v = (p[0] >> 7) & 1u;
     out->g = (p[0] >> 6) & 1u;
@@ -41,47 +42,44 @@ KOVREL_API void ast_dataitem_mode_3a_code_decode(AstMode3aCode *out, const AstDa
 
 KOVREL_API void ast_dataitem_mode_3a_code_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                  const AstMode3aCode *in) {
-    if (!mode::encode_start(out, buffer, size, kLength)) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
     // Callers that keep codes in signed integers mark "no code" as negative.
     if (!in || in->valid != 1 || static_cast<int32_t>(in->code) < 0) return;
     buffer[0] = static_cast<uint8_t>((in->v ? 0x80u : 0u) | (in->g ? 0x40u : 0u) |
                                      ((in->l || in->changed) ? 0x20u : 0u) | ((in->code >> 8) & 0x0Fu));
     buffer[1] = static_cast<uint8_t>(in->code & 0xFFu);
-    mode::encode_done(out, buffer, kLength);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_mode_3a_code_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstMode3aCode c;
-    ast_dataitem_mode_3a_code_decode(&c, item);
-    if (c.valid != 1) return;
-    if (item->id == kMode2NoFlags) {
-        w.appendf("MODE_2:%04o", c.code);
-        return;
-    }
-    w.appendf("%s:%04o%s%s%s", item->id == kMode2 ? "MODE_2" : "MODE_3/A", c.code, c.v ? " NOT_VALIDATED" : "",
-              c.g ? " GARBLED" : "",
-              item->id == kMode3aChanged ? (c.changed ? " CHANGED" : "") : (c.l ? " SMOOTHED" : ""));
+    items::describe(buffer, size, item, ast_dataitem_mode_3a_code_decode, [item](TextWriter &w, const auto &c) {
+        if (item->id == kMode2NoFlags) {
+            w.appendf("MODE_2:%04o", c.code);
+            return;
+        }
+        w.appendf("%s:%04o%s%s%s", item->id == kMode2 ? "MODE_2" : "MODE_3/A", c.code, c.v ? " NOT_VALIDATED" : "",
+                  c.g ? " GARBLED" : "",
+                  item->id == kMode3aChanged ? (c.changed ? " CHANGED" : "") : (c.l ? " SMOOTHED" : ""));
+    });
 }
 
 KOVREL_API void ast_dataitem_mode_3a_code_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstMode3aCode c;
-    ast_dataitem_mode_3a_code_decode(&c, item);
-    if (c.valid != 1) return;
-    mode::table_begin(w);
-    mode::table_row(w, "Bit[0]", "NOT_VALIDATED", "%d", c.v);
-    mode::table_row(w, "Bit[1]", "GARBLED", "%d", c.g);
-    // Mode 2 items have no third flag row.
-    if (item->id == kMode3aChanged)
-        mode::table_row(w, "Bit[2]", "CHANGED", "%d", c.changed);
-    else if (item->id != kMode2NoFlags && item->id != kMode2)
-        mode::table_row(w, "Bit[2]", "SMOOTHED", "%d", c.l);
-    mode::table_row(w, "Bit[4-6]", "CODE-A", "%o", digit(c.code, 0));
-    mode::table_row(w, "Bit[7-9]", "CODE-B", "%o", digit(c.code, 1));
-    mode::table_row(w, "Bit[10-12]", "CODE-C", "%o", digit(c.code, 2));
-    mode::table_row(w, "Bit[13-15]", "CODE-D", "%o", digit(c.code, 3));
-    mode::table_end(w);
+    items::describe(buffer, size, item, ast_dataitem_mode_3a_code_decode, [item](TextWriter &w, const auto &c) {
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        t.rowf("Bit[0]", "NOT_VALIDATED", "%d", c.v);
+        t.rowf("Bit[1]", "GARBLED", "%d", c.g);
+        // Mode 2 items have no third flag row.
+        if (item->id == kMode3aChanged)
+            t.rowf("Bit[2]", "CHANGED", "%d", c.changed);
+        else if (item->id != kMode2NoFlags && item->id != kMode2)
+            t.rowf("Bit[2]", "SMOOTHED", "%d", c.l);
+        t.rowf("Bit[4-6]", "CODE-A", "%o", digit(c.code, 0));
+        t.rowf("Bit[7-9]", "CODE-B", "%o", digit(c.code, 1));
+        t.rowf("Bit[10-12]", "CODE-C", "%o", digit(c.code, 2));
+        t.rowf("Bit[13-15]", "CODE-D", "%o", digit(c.code, 3));
+        t.end();
+    });
 }
 
 KOVREL_API void ast_dataitem_mode_3a_confidence_init(AstMode3aConfidence *out) {
@@ -91,7 +89,7 @@ KOVREL_API void ast_dataitem_mode_3a_confidence_init(AstMode3aConfidence *out) {
 KOVREL_API void ast_dataitem_mode_3a_confidence_decode(AstMode3aConfidence *out, const AstDataItem *item) {
     if (!out) return;
     *out = AstMode3aConfidence{};
-    if (!mode::span_ok(item, kLength)) return;
+    if (!items::span_ok(item, kLength)) return;
     const uint32_t bits = (static_cast<uint32_t>(item->data[0] & 0x0Fu) << 8) | item->data[1];
     uint8_t *flags[12] = {&out->qa4, &out->qa2, &out->qa1, &out->qb4, &out->qb2, &out->qb1,
                           &out->qc4, &out->qc2, &out->qc1, &out->qd4, &out->qd2, &out->qd1};
@@ -101,7 +99,7 @@ KOVREL_API void ast_dataitem_mode_3a_confidence_decode(AstMode3aConfidence *out,
 
 KOVREL_API void ast_dataitem_mode_3a_confidence_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                        const AstMode3aConfidence *in) {
-    if (!mode::encode_start(out, buffer, size, kLength)) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
     if (!in || in->valid != 1) return;
     const uint8_t flags[12] = {in->qa4, in->qa2, in->qa1, in->qb4, in->qb2, in->qb1,
                                in->qc4, in->qc2, in->qc1, in->qd4, in->qd2, in->qd1};
@@ -109,32 +107,28 @@ KOVREL_API void ast_dataitem_mode_3a_confidence_encode(AstDataItem *out, uint8_t
     for (int i = 0; i < 12; ++i) bits = (bits << 1) | (flags[i] ? 1u : 0u);
     buffer[0] = static_cast<uint8_t>(bits >> 8);
     buffer[1] = static_cast<uint8_t>(bits & 0xFFu);
-    mode::encode_done(out, buffer, kLength);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_mode_3a_confidence_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstMode3aConfidence q;
-    ast_dataitem_mode_3a_confidence_decode(&q, item);
-    if (q.valid != 1) return;
-    mode::append_quality(w, q.qa4 || q.qa2 || q.qa1, q.qb4 || q.qb2 || q.qb1, q.qc4 || q.qc2 || q.qc1,
-                                 q.qd4 || q.qd2 || q.qd1);
+    items::describe(buffer, size, item, ast_dataitem_mode_3a_confidence_decode,
+                    [](TextWriter &w, const auto &q) { items::append_quality(w, q); });
 }
 
 KOVREL_API void ast_dataitem_mode_3a_confidence_get_detail_html(char *buffer, size_t size,
                                                                 const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstMode3aConfidence q;
-    ast_dataitem_mode_3a_confidence_decode(&q, item);
-    if (q.valid != 1) return;
-    static const char *const bits[12] = {"Bit[4]",  "Bit[5]",  "Bit[6]",  "Bit[7]",  "Bit[8]",  "Bit[9]",
-                                         "Bit[10]", "Bit[11]", "Bit[12]", "Bit[13]", "Bit[14]", "Bit[15]"};
-    static const char *const names[12] = {"QA4", "QA2", "QA1", "QB4", "QB2", "QB1",
-                                          "QC4", "QC2", "QC1", "QD4", "QD2", "QD1"};
-    const uint8_t flags[12] = {q.qa4, q.qa2, q.qa1, q.qb4, q.qb2, q.qb1, q.qc4, q.qc2, q.qc1, q.qd4, q.qd2, q.qd1};
-    mode::table_begin(w);
-    for (int i = 0; i < 12; ++i) mode::table_row(w, bits[i], names[i], "%d", flags[i]);
-    mode::table_end(w);
+    items::describe(buffer, size, item, ast_dataitem_mode_3a_confidence_decode, [](TextWriter &w, const auto &q) {
+        static const char *const bits[12] = {"Bit[4]",  "Bit[5]",  "Bit[6]",  "Bit[7]",  "Bit[8]",  "Bit[9]",
+                                             "Bit[10]", "Bit[11]", "Bit[12]", "Bit[13]", "Bit[14]", "Bit[15]"};
+        static const char *const names[12] = {"QA4", "QA2", "QA1", "QB4", "QB2", "QB1",
+                                              "QC4", "QC2", "QC1", "QD4", "QD2", "QD1"};
+        const uint8_t flags[12] = {q.qa4, q.qa2, q.qa1, q.qb4, q.qb2, q.qb1,
+                                   q.qc4, q.qc2, q.qc1, q.qd4, q.qd2, q.qd1};
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        for (int i = 0; i < 12; ++i) t.rowf(bits[i], names[i], "%d", flags[i]);
+        t.end();
+    });
 }
 
 }  // extern "C"

@@ -1,12 +1,16 @@
 // Mode C code as a flight level, and the Mode C code with its pulse
 // confidence.
-#include "items/mode_common.h"
+#include <cstdio>
+
+#include "items/item_support.h"
+#include "items/mode_support.h"
+#include "kovrel/codec.h"
 #include "kovrel/items_mode.h"
 
 namespace {
 
 using kovrel::TextWriter;
-namespace mode = kovrel::mode;
+namespace items = kovrel::items;
 
 constexpr uint64_t kCodeLength = 2;
 constexpr uint64_t kConfidenceLength = 4;
@@ -40,6 +44,15 @@ void unpack(const Flags &flags, const uint8_t *two) {
     for (int i = 0; i < 12; ++i) *flags.f[kWireOrder[i]] = (bits >> (11 - i)) & 1u;
 }
 
+// Detail rows of twelve flags in wire order, the first at bit first_bit.
+void wire_rows(items::DetailTable &t, int first_bit, const char *const (&names)[12], const Flags &flags) {
+    for (int i = 0; i < 12; ++i) {
+        char bit[12];
+        std::snprintf(bit, sizeof bit, "Bit[%d]", first_bit + i);
+        t.rowf(bit, names[kWireOrder[i]], "%d", *flags.f[kWireOrder[i]]);
+    }
+}
+
 }  // namespace
 
 extern "C" {
@@ -51,7 +64,7 @@ KOVREL_API void ast_dataitem_mode_c_code_init(AstModeCCode *out) {
 KOVREL_API void ast_dataitem_mode_c_code_decode(AstModeCCode *out, const AstDataItem *item) {
     if (!out) return;
     *out = AstModeCCode{};
-    if (!mode::span_ok(item, kCodeLength)) return;
+    if (!items::span_ok(item, kCodeLength)) return;
     out->validated = (item->data[0] & 0x80u) ? 0 : 1;
     out->garbled = (item->data[0] >> 6) & 1u;
     ast_twos_complement_decode_ex(&out->flight_level, item->data, 2, 2);
@@ -60,37 +73,34 @@ KOVREL_API void ast_dataitem_mode_c_code_decode(AstModeCCode *out, const AstData
 
 KOVREL_API void ast_dataitem_mode_c_code_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                 const AstModeCCode *in) {
-    if (!mode::encode_start(out, buffer, size, kCodeLength)) return;
+    if (!items::encode_begin(out, buffer, size, kCodeLength)) return;
     if (!in || in->valid == 0) return;
     // A flight level beyond 14 bits is cut to its low bits like any field.
     buffer[0] = static_cast<uint8_t>((in->validated ? 0u : 0x80u) | (in->garbled ? 0x40u : 0u));
     ast_twos_complement_encode_ex(buffer, 2, in->flight_level, 2);
-    mode::encode_done(out, buffer, kCodeLength);
+    items::encode_done(out, buffer, kCodeLength);
 }
 
 KOVREL_API void ast_dataitem_mode_c_code_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstModeCCode c;
-    ast_dataitem_mode_c_code_decode(&c, item);
-    if (c.valid != 1) return;
-    w.appendf("MODE_C:%04d%s%s", c.flight_level / 4, c.validated ? "" : " NOT_VALIDATED",
-              c.garbled ? " GARBLED" : "");
+    items::describe(buffer, size, item, ast_dataitem_mode_c_code_decode, [](TextWriter &w, const auto &c) {
+        w.appendf("MODE_C:%04d%s%s", c.flight_level / 4, c.validated ? "" : " NOT_VALIDATED",
+                  c.garbled ? " GARBLED" : "");
+    });
 }
 
 KOVREL_API void ast_dataitem_mode_c_code_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstModeCCode c;
-    ast_dataitem_mode_c_code_decode(&c, item);
-    if (c.valid != 1) return;
-    const double feet = c.flight_level * kFeetPerQuarterFl;
-    mode::table_begin(w);
-    mode::table_row(w, "Bit[0]", "NOT_VALIDATED", "%d", c.validated ? 0 : 1);
-    mode::table_row(w, "Bit[1]", "GARBLED", "%d", c.garbled);
-    mode::table_row(w, "Bit[2-15]", "FLIGHT_LEVEL (LSB=1/4FL)", "%d", c.flight_level);
-    mode::table_row(w, "Bit[2-15]", "FLIGHT_LEVEL (LSB=FL)", "%.2f", c.flight_level / 4.0);
-    mode::table_row(w, "Bit[2-15]", "FLIGHT_LEVEL (LSB=FT)", "%.2f", feet);
-    mode::table_row(w, "Bit[2-15]", "FLIGHT_LEVEL (LSB=M)", "%.2f", feet * kMetresPerFoot);
-    mode::table_end(w);
+    items::describe(buffer, size, item, ast_dataitem_mode_c_code_decode, [](TextWriter &w, const auto &c) {
+        const double feet = c.flight_level * kFeetPerQuarterFl;
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        t.rowf("Bit[0]", "NOT_VALIDATED", "%d", c.validated ? 0 : 1);
+        t.rowf("Bit[1]", "GARBLED", "%d", c.garbled);
+        t.rowf("Bit[2-15]", "FLIGHT_LEVEL (LSB=1/4FL)", "%d", c.flight_level);
+        t.rowf("Bit[2-15]", "FLIGHT_LEVEL (LSB=FL)", "%.2f", c.flight_level / 4.0);
+        t.rowf("Bit[2-15]", "FLIGHT_LEVEL (LSB=FT)", "%.2f", feet);
+        t.rowf("Bit[2-15]", "FLIGHT_LEVEL (LSB=M)", "%.2f", feet * kMetresPerFoot);
+        t.end();
+    });
 }
 
 KOVREL_API void ast_dataitem_mode_c_confidence_init(AstModeCConfidence *out) {
@@ -100,7 +110,7 @@ KOVREL_API void ast_dataitem_mode_c_confidence_init(AstModeCConfidence *out) {
 KOVREL_API void ast_dataitem_mode_c_confidence_decode(AstModeCConfidence *out, const AstDataItem *item) {
     if (!out) return;
     *out = AstModeCConfidence{};
-    if (!mode::span_ok(item, kConfidenceLength)) return;
+    if (!items::span_ok(item, kConfidenceLength)) return;
     out->validated = (item->data[0] & 0x80u) ? 0 : 1;
     out->garbled = (item->data[0] >> 6) & 1u;
     const Flags pulses = pulses_of(out);
@@ -112,40 +122,27 @@ KOVREL_API void ast_dataitem_mode_c_confidence_decode(AstModeCConfidence *out, c
 }
 
 KOVREL_API void ast_dataitem_mode_c_confidence_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstModeCConfidence c;
-    ast_dataitem_mode_c_confidence_decode(&c, item);
-    if (c.valid != 1) return;
-    w.appendf("CODE:%.4o ", c.code);
-    mode::append_quality(w, c.qa4 || c.qa2 || c.qa1, c.qb4 || c.qb2 || c.qb1, c.qc4 || c.qc2 || c.qc1,
-                         c.qd4 || c.qd2 || c.qd1);
-    w.appendf("%s%s", c.validated ? "" : " NOT_VALIDATED", c.garbled ? " GARBLED" : "");
+    items::describe(buffer, size, item, ast_dataitem_mode_c_confidence_decode, [](TextWriter &w, const auto &c) {
+        w.appendf("CODE:%.4o ", c.code);
+        items::append_quality(w, c);
+        w.appendf("%s%s", c.validated ? "" : " NOT_VALIDATED", c.garbled ? " GARBLED" : "");
+    });
 }
 
 KOVREL_API void ast_dataitem_mode_c_confidence_get_detail_html(char *buffer, size_t size,
                                                                const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstModeCConfidence c;
-    ast_dataitem_mode_c_confidence_decode(&c, item);
-    if (c.valid != 1) return;
-    const Flags pulses = pulses_of(&c);
-    const Flags qualities = qualities_of(&c);
-    mode::table_begin(w);
-    mode::table_row(w, "Bit[0]", "NOT_VALIDATED", "%d", c.validated ? 0 : 1);
-    mode::table_row(w, "Bit[1]", "GARBLED", "%d", c.garbled);
-    mode::table_row(w, "Bit[4-15]", "MODE_C_CODE", "%.4o", c.code);
-    // Pulses at wire bits 4-15, their quality flags at 20-31.
-    for (int i = 0; i < 12; ++i) {
-        char bit[12];
-        std::snprintf(bit, sizeof bit, "Bit[%d]", 4 + i);
-        mode::table_row(w, bit, kPulseNames[kWireOrder[i]], "%d", *pulses.f[kWireOrder[i]]);
-    }
-    for (int i = 0; i < 12; ++i) {
-        char bit[12];
-        std::snprintf(bit, sizeof bit, "Bit[%d]", 20 + i);
-        mode::table_row(w, bit, kQualityNames[kWireOrder[i]], "%d", *qualities.f[kWireOrder[i]]);
-    }
-    mode::table_end(w);
+    // c by value: the flag views point into it.
+    items::describe(buffer, size, item, ast_dataitem_mode_c_confidence_decode, [](TextWriter &w, auto c) {
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        t.rowf("Bit[0]", "NOT_VALIDATED", "%d", c.validated ? 0 : 1);
+        t.rowf("Bit[1]", "GARBLED", "%d", c.garbled);
+        t.rowf("Bit[4-15]", "MODE_C_CODE", "%.4o", c.code);
+        // Pulses at wire bits 4-15, their quality flags at 20-31.
+        wire_rows(t, 4, kPulseNames, pulses_of(&c));
+        wire_rows(t, 20, kQualityNames, qualities_of(&c));
+        t.end();
+    });
 }
 
 }  // extern "C"

@@ -1,6 +1,6 @@
 // Mode S MB data: up to eight Comm-B registers, each 7 MB octets followed
 // by its BDS code octet.
-#include "items/mode_common.h"
+#include "items/item_support.h"
 #include "kovrel/bds.h"
 #include "kovrel/core.h"
 #include "kovrel/items_mode.h"
@@ -8,7 +8,7 @@
 namespace {
 
 using kovrel::TextWriter;
-namespace mode = kovrel::mode;
+namespace items = kovrel::items;
 
 constexpr uint64_t kMbOctets = 7;
 constexpr uint64_t kRepetition = kMbOctets + 1;
@@ -24,7 +24,7 @@ KOVREL_API void ast_dataitem_modes_mb_init(AstModesMb *out) {
 KOVREL_API void ast_dataitem_modes_mb_decode(AstModesMb *out, const AstDataItem *item) {
     if (!out) return;
     *out = AstModesMb{};
-    if (!item || item->valid != 1 || !item->data || item->length < 1 + kRepetition) return;
+    if (!items::span_at_least(item, 1 + kRepetition)) return;
     const uint32_t rep = item->data[0];
     // A length that does not match REP is refused quietly; the record
     // decoder already delimits the item by REP.
@@ -45,50 +45,42 @@ KOVREL_API void ast_dataitem_modes_mb_decode(AstModesMb *out, const AstDataItem 
 }
 
 KOVREL_API void ast_dataitem_modes_mb_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstModesMb mb;
-    ast_dataitem_modes_mb_decode(&mb, item);
-    if (mb.valid != 1) return;
-    w.append("BDS:");
-    for (uint32_t i = 0; i < mb.rep; ++i) {
-        char code[16];
-        if (!ast_bds_type_to_str_simple(code, sizeof code, mb.bds[i].id)) continue;
-        if (i > 0) w.append_char(' ');
-        w.append(code);
-    }
+    items::describe(buffer, size, item, ast_dataitem_modes_mb_decode, [](TextWriter &w, const auto &mb) {
+        w.append("BDS:");
+        for (uint32_t i = 0; i < mb.rep; ++i) {
+            char code[16];
+            if (!ast_bds_type_to_str_simple(code, sizeof code, mb.bds[i].id)) continue;
+            if (i > 0) w.append_char(' ');
+            w.append(code);
+        }
+    });
 }
 
 KOVREL_API void ast_dataitem_modes_mb_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstModesMb mb;
-    ast_dataitem_modes_mb_decode(&mb, item);
-    if (mb.valid != 1) return;
-    char code[16];
-    ast_html_gen_title_h4(w.end(), w.end_size(), "BDS List");
-    w.resync();
-    ast_html_gen_table_begin(w.end(), w.end_size());
-    w.resync();
-    ast_html_gen_table_row(w.end(), w.end_size(), 1, "BDS", "Name", AST_HTML_TABLE_END_OF_ROW);
-    w.resync();
-    for (uint32_t i = 0; i < mb.rep; ++i) {
-        if (!ast_bds_type_to_str(code, sizeof code, mb.bds[i].id)) code[0] = '\0';
-        ast_html_gen_table_row(w.end(), w.end_size(), 0, code, ast_bds_get_name(mb.bds[i].id),
-                               AST_HTML_TABLE_END_OF_ROW);
-        w.resync();
-    }
-    mode::table_end(w);
-    for (uint32_t i = 0; i < mb.rep && !w.full(); ++i) {
-        const AstDataItem &reg = mb.bds[i];
-        if (!ast_bds_type_to_str(code, sizeof code, reg.id)) code[0] = '\0';
-        ast_html_gen_title_h4(w.end(), w.end_size(), "%s - %s", code, ast_bds_get_name(reg.id));
-        w.resync();
-        ast_html_gen_bin_table(w.end(), w.end_size(), reg.data, kMbOctets);
-        w.resync();
-        ast_html_gen_para(w.end(), w.end_size(), "%s", "");
-        w.resync();
-        ast_bds_get_detail_html(w.end(), w.end_size(), &reg);
-        w.resync();
-    }
+    items::describe(buffer, size, item, ast_dataitem_modes_mb_decode, [](TextWriter &w, const auto &mb) {
+        char code[16];
+        items::DetailTable t(w);
+        t.title("BDS List");
+        t.header("BDS", "Name");
+        for (uint32_t i = 0; i < mb.rep; ++i) {
+            if (!ast_bds_type_to_str(code, sizeof code, mb.bds[i].id)) code[0] = '\0';
+            t.row(code, ast_bds_get_name(mb.bds[i].id));
+        }
+        t.end();
+        // Each register: its title, its bits and its own detail view.
+        for (uint32_t i = 0; i < mb.rep && !w.full(); ++i) {
+            const AstDataItem &reg = mb.bds[i];
+            if (!ast_bds_type_to_str(code, sizeof code, reg.id)) code[0] = '\0';
+            ast_html_gen_title_h4(w.end(), w.end_size(), "%s - %s", code, ast_bds_get_name(reg.id));
+            w.resync();
+            ast_html_gen_bin_table(w.end(), w.end_size(), reg.data, kMbOctets);
+            w.resync();
+            ast_html_gen_para(w.end(), w.end_size(), "%s", "");
+            w.resync();
+            ast_bds_get_detail_html(w.end(), w.end_size(), &reg);
+            w.resync();
+        }
+    });
 }
 
 }  // extern "C"

@@ -1,25 +1,34 @@
-// Shared pieces of the position, velocity and height items: the span check,
-// the encode result, double-to-integer conversions that stay defined on
-// hostile values, and the rows of their three-column detail tables.
+// What the position, velocity and height items share: structures of two
+// numbers, and double-to-integer conversions that stay defined on hostile
+// values.
 #pragma once
 
 #include <cmath>
 #include <cstdint>
 
-#include "core/text.h"
-#include "kovrel/dataitem.h"
-#include "kovrel/html.h"
+#include "items/item_support.h"
+#include "kovrel/codec.h"
 
-namespace kovrel::motion {
+namespace kovrel::items {
 
-// True when the span can be read as an item of exactly n octets.
-inline bool exact_span(const AstDataItem *item, uint64_t n) {
-    return item && item->valid == 1 && item->data && item->length == n;
+// A structure laid out {valid, raw, lsb, value, raw, lsb, value}: two raw
+// numbers, each with its LSB and its value.
+template <typename T>
+T number_pair(uint32_t valid, int32_t a, double a_lsb, int32_t b, double b_lsb) {
+    return T{valid, a, a_lsb, a * a_lsb, b, b_lsb, b * b_lsb};
 }
 
-// The result span of an encoder: {buffer, n, 0, 1}, or {buffer, 0, 0, 0}.
-inline void encode_result(AstDataItem *out, uint8_t *buffer, uint64_t n) {
-    *out = AstDataItem{buffer, n, 0, static_cast<uint8_t>(n ? 1 : 0)};
+// Decodes two two's complement fields of `octets` octets each, with one LSB.
+// A missing, invalid or wrong-length span gives raw values 0.
+template <typename T>
+void decode_signed_pair(T *out, const AstDataItem *item, int octets, double lsb) {
+    if (!out) return;
+    *out = number_pair<T>(0, 0, lsb, 0, lsb);
+    if (!span_ok(item, 2 * static_cast<uint64_t>(octets))) return;
+    int32_t a = 0, b = 0;
+    ast_twos_complement_decode(&a, item->data, octets);
+    ast_twos_complement_decode(&b, item->data + octets, octets);
+    *out = number_pair<T>(1, a, lsb, b, lsb);
 }
 
 // C truncation towards zero. A value with no 32-bit truncation (NaN,
@@ -37,22 +46,4 @@ inline int32_t round_i32(double v) { return truncate_i32(std::round(v)); }
 // overflowing.
 inline int32_t negate_i32(int32_t v) { return static_cast<int32_t>(0u - static_cast<uint32_t>(v)); }
 
-// Opens a detail table with its header row.
-inline void table_begin(TextWriter &w, const char *h1, const char *h2, const char *h3) {
-    ast_html_gen_table_begin(w.end(), w.end_size());
-    w.resync();
-    ast_html_gen_table_row(w.end(), w.end_size(), 1, h1, h2, h3, AST_HTML_TABLE_END_OF_ROW);
-    w.resync();
-}
-
-inline void table_row(TextWriter &w, const char *c1, const char *c2, const char *c3) {
-    ast_html_gen_table_row(w.end(), w.end_size(), 0, c1, c2, c3, AST_HTML_TABLE_END_OF_ROW);
-    w.resync();
-}
-
-inline void table_end(TextWriter &w) {
-    ast_html_gen_table_end(w.end(), w.end_size());
-    w.resync();
-}
-
-}  // namespace kovrel::motion
+}  // namespace kovrel::items

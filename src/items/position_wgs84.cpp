@@ -1,7 +1,6 @@
 // WGS-84 positions: latitude and longitude as two's complement fields of 3
 // octets (6-octet item) or 4 octets (8-octet item), in degrees.
 #include <cmath>
-#include <cstdio>
 
 #include "core/state.h"
 #include "items/motion_support.h"
@@ -9,8 +8,10 @@
 #include "kovrel/core.h"
 #include "kovrel/items_motion.h"
 
-namespace kovrel {
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 constexpr double kLsbLow = 180.0 / 8388608.0;         // 180/2^23
 constexpr double kLsbDefault = 180.0 / 33554432.0;    // 180/2^25
@@ -21,8 +22,6 @@ constexpr double kLsbFinest = 180.0 / 2147483648.0;   // 180/2^31
 // there is what existing consumers see), 30 for the detail rows.
 constexpr size_t kSummaryText = 20;
 constexpr size_t kDetailText = 30;
-// Decimal degrees and raw values of any 32-bit field fit whole.
-constexpr size_t kNumbersText = 64;
 // An anchor holds a link of at most 511 characters and the service name.
 constexpr size_t kAnchorText = 600;
 
@@ -55,144 +54,114 @@ double full_lsb(AstItemId id) {
 }
 
 template <typename T>
-void init(T *out, double lsb) {
-    if (!out) return;
-    *out = T{0, 0, lsb, 0.0, 0, lsb, 0.0};
-}
-
-template <typename T>
-void scale(T *out, int32_t lat_raw, int32_t lon_raw, double lsb) {
-    *out = T{1, lat_raw, lsb, lat_raw * lsb, lon_raw, lsb, lon_raw * lsb};
-}
-
-void decode_low(AstPositionWgs84Low *out, const AstDataItem *item) {
-    init(out, kLsbLow);
-    if (!out || !motion::exact_span(item, 6)) return;
-    int32_t lat = 0, lon = 0;
-    ast_twos_complement_decode(&lat, item->data, 3);
-    ast_twos_complement_decode(&lon, item->data + 3, 3);
-    scale(out, lat, lon, kLsbLow);
+void init(T *out, const Layout &layout) {
+    if (out) *out = items::number_pair<T>(0, 0, layout.lsb, 0, layout.lsb);
 }
 
 void decode_full(AstPositionWgs84 *out, const AstDataItem *item) {
-    init(out, kLsbDefault);
-    if (!out || !motion::exact_span(item, 8)) return;
+    init(out, kFull);
+    if (!out || !items::span_ok(item, 8)) return;
     int32_t lat = 0, lon = 0;
     ast_twos_complement_decode(&lat, item->data, 4);
     ast_twos_complement_decode(&lon, item->data + 4, 4);
     // Some trackers send the I062/105 longitude with the wrong sign; the
     // option turns a western longitude into the eastern one of the same
     // magnitude. No other item is ever corrected.
-    if (item->id == 62105 && lon < 0 && option_set(AST_OPTION_I062_105_NEGATE_WEST_LONGITUDE)) {
-        lon = motion::negate_i32(lon);
+    if (item->id == 62105 && lon < 0 && kovrel::option_set(AST_OPTION_I062_105_NEGATE_WEST_LONGITUDE)) {
+        lon = items::negate_i32(lon);
     }
-    scale(out, lat, lon, full_lsb(item->id));
+    const double lsb = full_lsb(item->id);
+    *out = items::number_pair<AstPositionWgs84>(1, lat, lsb, lon, lsb);
 }
 
 template <typename T>
 void encode(AstDataItem *out, uint8_t *buffer, size_t size, const T *in, const Layout &layout) {
-    if (!out) return;
-    motion::encode_result(out, buffer, 0);
     const size_t length = 2 * static_cast<size_t>(layout.field_octets);
-    if (!in || !buffer || size < length || in->valid != 1) return;
+    if (!items::encode_begin(out, buffer, size, length)) return;
+    if (!in || in->valid != 1) return;
     // Written as !(x <= limit) so that NaN fails as well.
     if (!(std::fabs(in->latitude) <= 90.0) || !(std::fabs(in->longitude) <= 180.0)) return;
-    const int32_t lat = motion::truncate_i32(in->latitude / layout.lsb);
-    const int32_t lon = motion::truncate_i32(in->longitude / layout.lsb);
+    const int32_t lat = items::truncate_i32(in->latitude / layout.lsb);
+    const int32_t lon = items::truncate_i32(in->longitude / layout.lsb);
     ast_twos_complement_encode(buffer, layout.field_octets, lat);
     ast_twos_complement_encode(buffer + layout.field_octets, layout.field_octets, lon);
-    motion::encode_result(out, buffer, length);
+    items::encode_done(out, buffer, length);
 }
 
 template <typename T>
-void summary(char *buffer, size_t size, const T &pos) {
-    TextWriter w(buffer, size);
-    if (pos.valid != 1) return;
+void summary(TextWriter &w, const T &pos) {
     char text[kSummaryText];
     ast_latlong_to_str(text, sizeof text, pos.latitude, pos.longitude);
     w.appendf("WGS84:%s", text);
 }
 
 template <typename T>
-void detail(char *buffer, size_t size, const T &pos, const Layout &layout) {
-    TextWriter w(buffer, size);
-    if (pos.valid != 1) return;
+void detail(TextWriter &w, const T &pos, const Layout &layout) {
     constexpr const char *kItem = "WGS84_COORDINATES";
-    motion::table_begin(w, "Octet", "Item", "Value");
+    items::DetailTable t(w);
+    t.header("Octet", "Item", "Value");
 
     char text[kDetailText];
     ast_latlong_to_str(text, sizeof text, pos.latitude, pos.longitude);
-    motion::table_row(w, layout.label, kItem, text);
+    t.row(layout.label, kItem, text);
     ast_latlong_to_str_high(text, sizeof text, pos.latitude, pos.longitude);
-    motion::table_row(w, layout.label, kItem, text);
+    t.row(layout.label, kItem, text);
     ast_latlong_to_str_very_high(text, sizeof text, pos.latitude, pos.longitude);
-    motion::table_row(w, layout.label, kItem, text);
-    char numbers[kNumbersText];
-    std::snprintf(numbers, sizeof numbers, layout.degrees, pos.latitude, pos.longitude);
-    motion::table_row(w, layout.label, kItem, numbers);
-    std::snprintf(numbers, sizeof numbers, "%d, %d", pos.lat_raw, pos.lon_raw);
-    motion::table_row(w, layout.raw_label, kItem, numbers);
+    t.row(layout.label, kItem, text);
+    t.rowf(layout.label, kItem, layout.degrees, pos.latitude, pos.longitude);
+    t.rowf(layout.raw_label, kItem, "%d, %d", pos.lat_raw, pos.lon_raw);
 
     char anchor[kAnchorText];
     for (int32_t service = AST_MAP_GOOGLE; service <= AST_MAP_BAIDU; ++service) {
         ast_html_gen_location_map_link(anchor, sizeof anchor, service, pos.latitude, pos.longitude);
-        motion::table_row(w, layout.label, kItem, anchor);
+        t.row(layout.label, kItem, anchor);
     }
-    motion::table_end(w);
+    t.end();
 }
 
 }  // namespace
-}  // namespace kovrel
 
 extern "C" {
 
-KOVREL_API void ast_dataitem_position_wgs84_low_init(AstPositionWgs84Low *out) {
-    kovrel::init(out, kovrel::kLsbLow);
-}
+KOVREL_API void ast_dataitem_position_wgs84_low_init(AstPositionWgs84Low *out) { init(out, kLow); }
 
 KOVREL_API void ast_dataitem_position_wgs84_low_decode(AstPositionWgs84Low *out, const AstDataItem *item) {
-    kovrel::decode_low(out, item);
+    items::decode_signed_pair(out, item, kLow.field_octets, kLow.lsb);
 }
 
 KOVREL_API void ast_dataitem_position_wgs84_low_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                        const AstPositionWgs84Low *in) {
-    kovrel::encode(out, buffer, size, in, kovrel::kLow);
+    encode(out, buffer, size, in, kLow);
 }
 
 KOVREL_API void ast_dataitem_position_wgs84_low_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    AstPositionWgs84Low pos;
-    kovrel::decode_low(&pos, item);
-    kovrel::summary(buffer, size, pos);
+    items::describe(buffer, size, item, ast_dataitem_position_wgs84_low_decode, summary<AstPositionWgs84Low>);
 }
 
 KOVREL_API void ast_dataitem_position_wgs84_low_get_detail_html(char *buffer, size_t size,
                                                                 const AstDataItem *item) {
-    AstPositionWgs84Low pos;
-    kovrel::decode_low(&pos, item);
-    kovrel::detail(buffer, size, pos, kovrel::kLow);
+    items::describe(buffer, size, item, ast_dataitem_position_wgs84_low_decode,
+                    [](TextWriter &w, const auto &pos) { detail(w, pos, kLow); });
 }
 
-KOVREL_API void ast_dataitem_position_wgs84_init(AstPositionWgs84 *out) { kovrel::init(out, kovrel::kLsbDefault); }
+KOVREL_API void ast_dataitem_position_wgs84_init(AstPositionWgs84 *out) { init(out, kFull); }
 
 KOVREL_API void ast_dataitem_position_wgs84_decode(AstPositionWgs84 *out, const AstDataItem *item) {
-    kovrel::decode_full(out, item);
+    decode_full(out, item);
 }
 
 KOVREL_API void ast_dataitem_position_wgs84_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                    const AstPositionWgs84 *in) {
-    kovrel::encode(out, buffer, size, in, kovrel::kFull);
+    encode(out, buffer, size, in, kFull);
 }
 
 KOVREL_API void ast_dataitem_position_wgs84_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    AstPositionWgs84 pos;
-    kovrel::decode_full(&pos, item);
-    kovrel::summary(buffer, size, pos);
+    items::describe(buffer, size, item, ast_dataitem_position_wgs84_decode, summary<AstPositionWgs84>);
 }
 
 KOVREL_API void ast_dataitem_position_wgs84_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
-    AstPositionWgs84 pos;
-    kovrel::decode_full(&pos, item);
-    kovrel::detail(buffer, size, pos, kovrel::kFull);
+    items::describe(buffer, size, item, ast_dataitem_position_wgs84_decode,
+                    [](TextWriter &w, const auto &pos) { detail(w, pos, kFull); });
 }
 
 }  // extern "C"

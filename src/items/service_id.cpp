@@ -1,10 +1,15 @@
 // Service identification: one octet naming the service a report belongs to.
 // Same layout as the message type, with a summary of its own.
-#include "items/ident_support.h"
+#include "items/item_support.h"
 #include "kovrel/items_ident.h"
 
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
+
 constexpr uint64_t kLength = 1;
+
 }  // namespace
 
 extern "C" {
@@ -16,26 +21,22 @@ KOVREL_API void ast_dataitem_service_id_init(AstServiceId *out) {
 KOVREL_API void ast_dataitem_service_id_decode(AstServiceId *out, const AstDataItem *item) {
     if (!out) return;
     ast_dataitem_service_id_init(out);
-    if (!kovrel::ident::span_ok(item, kLength)) return;
+    if (!items::span_ok(item, kLength)) return;
     out->value = item->data[0];
     out->valid = 1;
 }
 
 KOVREL_API void ast_dataitem_service_id_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                const AstServiceId *in) {
-    if (!out) return;
-    kovrel::ident::encode_failed(out, buffer);
-    if (!in || !buffer || size < kLength || in->valid != 1 || in->value > 0xFF) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
+    if (!in || in->valid != 1 || in->value > 0xFF) return;
     buffer[0] = static_cast<uint8_t>(in->value);
-    kovrel::ident::encoded(out, buffer, kLength);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_service_id_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    kovrel::TextWriter w(buffer, size);
-    AstServiceId svc;
-    ast_dataitem_service_id_decode(&svc, item);
-    if (!svc.valid) return;
-    w.appendf("SVC_ID:%03d", static_cast<int>(svc.value));
+    items::describe(buffer, size, item, ast_dataitem_service_id_decode,
+                    [](TextWriter &w, const auto &svc) { w.appendf("SVC_ID:%03d", static_cast<int>(svc.value)); });
 }
 
 }  // extern "C"

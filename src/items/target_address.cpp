@@ -1,13 +1,14 @@
 // Mode S 24-bit target address, with the country of its address block in
 // the detail view when the application lends a lookup.
 #include "core/state.h"
-#include "items/mode_common.h"
+#include "items/item_support.h"
+#include "kovrel/codec.h"
 #include "kovrel/items_mode.h"
 
 namespace {
 
 using kovrel::TextWriter;
-namespace mode = kovrel::mode;
+namespace items = kovrel::items;
 
 constexpr uint64_t kLength = 3;
 
@@ -47,40 +48,36 @@ KOVREL_API void ast_dataitem_target_address_init(AstTargetAddress *out) {
 KOVREL_API void ast_dataitem_target_address_decode(AstTargetAddress *out, const AstDataItem *item) {
     if (!out) return;
     *out = AstTargetAddress{};
-    if (!mode::span_ok(item, kLength)) return;
+    if (!items::span_ok(item, kLength)) return;
     ast_unsigned_decode(&out->address, item->data, 3);
     out->valid = 1;
 }
 
 KOVREL_API void ast_dataitem_target_address_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                    const AstTargetAddress *in) {
-    if (!mode::encode_start(out, buffer, size, kLength)) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
     // An all-zero address is never written: receivers take it as "no address".
     if (!in || in->valid != 1 || in->address == 0) return;
     ast_unsigned_encode(buffer, 3, in->address);
-    mode::encode_done(out, buffer, kLength);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_target_address_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstTargetAddress a;
-    ast_dataitem_target_address_decode(&a, item);
-    if (a.valid != 1) return;
-    w.appendf("ADDR:%.6X", a.address);
+    items::describe(buffer, size, item, ast_dataitem_target_address_decode,
+                    [](TextWriter &w, const auto &a) { w.appendf("ADDR:%.6X", a.address); });
 }
 
 KOVREL_API void ast_dataitem_target_address_get_detail_html(char *buffer, size_t size,
                                                             const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstTargetAddress a;
-    ast_dataitem_target_address_decode(&a, item);
-    if (a.valid != 1) return;
-    mode::table_begin(w);
-    mode::table_row(w, "Bit[0-23]", "TARGET_ADDRESS (HEX)", "%.6X", a.address);
-    mode::table_row(w, "Bit[0-23]", "TARGET_ADDRESS (OCT)", "%.8o", a.address);
-    mode::table_row(w, "Bit[0-23]", "TARGET_ADDRESS (DEC)", "%u", a.address);
-    mode::table_end(w);
-    country_paragraphs(w, a.address, item);
+    items::describe(buffer, size, item, ast_dataitem_target_address_decode, [item](TextWriter &w, const auto &a) {
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        t.rowf("Bit[0-23]", "TARGET_ADDRESS (HEX)", "%.6X", a.address);
+        t.rowf("Bit[0-23]", "TARGET_ADDRESS (OCT)", "%.8o", a.address);
+        t.rowf("Bit[0-23]", "TARGET_ADDRESS (DEC)", "%u", a.address);
+        t.end();
+        country_paragraphs(w, a.address, item);
+    });
 }
 
 }  // extern "C"

@@ -1,11 +1,11 @@
 // Target identification: a source indicator and eight six-bit characters.
-#include "items/mode_common.h"
+#include "items/item_support.h"
 #include "kovrel/items_mode.h"
 
 namespace {
 
 using kovrel::TextWriter;
-namespace mode = kovrel::mode;
+namespace items = kovrel::items;
 
 constexpr uint64_t kLength = 7;
 
@@ -26,44 +26,41 @@ KOVREL_API void ast_dataitem_target_id_init(AstTargetId *out) {
 KOVREL_API void ast_dataitem_target_id_decode(AstTargetId *out, const AstDataItem *item) {
     if (!out) return;
     *out = AstTargetId{};
-    if (!mode::span_ok(item, kLength)) return;
+    if (!items::span_ok(item, kLength)) return;
     out->sti = item->data[0] >> 6;
-    mode::chars_decode(out->chars, item->data + 1);
+    items::chars_decode(out->chars, item->data + 1);
     out->valid = 1;
 }
 
 KOVREL_API void ast_dataitem_target_id_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                               const AstTargetId *in) {
-    if (!mode::encode_start(out, buffer, size, kLength)) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
     if (!in || in->valid != 1 || in->sti > 3) return;
     buffer[0] = static_cast<uint8_t>(in->sti << 6);
-    mode::chars_encode(buffer + 1, in->chars);
-    mode::encode_done(out, buffer, kLength);
+    items::chars_encode(buffer + 1, in->chars);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_target_id_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstTargetId t;
-    ast_dataitem_target_id_decode(&t, item);
-    if (t.valid != 1) return;
-    switch (t.sti) {
-        case 0: w.appendf("TARGET_ID:%s", t.chars); break;
-        case 1: w.appendf("REGISTRATION:%s", t.chars); break;
-        case 2: w.appendf("CALLSIGN:%s", t.chars); break;
-        // Spelling kept: existing consumers match this exact text.
-        default: w.append("TARGET_ID:UNDIFINED"); break;
-    }
+    items::describe(buffer, size, item, ast_dataitem_target_id_decode, [](TextWriter &w, const auto &t) {
+        switch (t.sti) {
+            case 0: w.appendf("TARGET_ID:%s", t.chars); break;
+            case 1: w.appendf("REGISTRATION:%s", t.chars); break;
+            case 2: w.appendf("CALLSIGN:%s", t.chars); break;
+            // Spelling kept: existing consumers match this exact text.
+            default: w.append("TARGET_ID:UNDIFINED"); break;
+        }
+    });
 }
 
 KOVREL_API void ast_dataitem_target_id_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
-    TextWriter w(buffer, size);
-    AstTargetId t;
-    ast_dataitem_target_id_decode(&t, item);
-    if (t.valid != 1) return;
-    mode::table_begin(w);
-    mode::table_row(w, "Bit[0-1]", "STI", "%u (%s)", t.sti, kSourceNames[t.sti & 3u]);
-    mode::char_rows(w, t.chars, kCharBits);
-    mode::table_end(w);
+    items::describe(buffer, size, item, ast_dataitem_target_id_decode, [](TextWriter &w, const auto &id) {
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        t.rowf("Bit[0-1]", "STI", "%u (%s)", id.sti, kSourceNames[id.sti & 3u]);
+        t.char_rows(id.chars, kCharBits);
+        t.end();
+    });
 }
 
 }  // extern "C"

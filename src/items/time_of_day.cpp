@@ -1,11 +1,12 @@
 // Time of day: a 24-bit count of 1/128 s since midnight.
-#include <cstdio>
-
-#include "items/ident_support.h"
+#include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_ident.h"
 
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 constexpr uint64_t kLength = 3;
 constexpr double kLsb = 1.0 / 128.0;
@@ -33,7 +34,7 @@ KOVREL_API void ast_dataitem_time_of_day_init(AstTimeOfDay *out) {
 KOVREL_API void ast_dataitem_time_of_day_decode(AstTimeOfDay *out, const AstDataItem *item) {
     if (!out) return;
     ast_dataitem_time_of_day_init(out);
-    if (!kovrel::ident::span_ok(item, kLength)) return;
+    if (!items::span_ok(item, kLength)) return;
     uint32_t raw = 0;
     ast_unsigned_decode(&raw, item->data, 3);
     out->raw = raw;
@@ -48,53 +49,34 @@ KOVREL_API void ast_dataitem_time_of_day_decode(AstTimeOfDay *out, const AstData
 
 KOVREL_API void ast_dataitem_time_of_day_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                 const AstTimeOfDay *in) {
-    if (!out) return;
-    kovrel::ident::encode_failed(out, buffer);
-    if (!in || !buffer || size < kLength || in->valid != 1) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
+    if (!in || in->valid != 1) return;
     // A raw count wins over the parts; the parts are only looked at when
     // raw is 0.
     const uint32_t raw = in->raw != 0 ? (in->raw & 0xFFFFFFu) : ticks_from_parts(*in);
     ast_unsigned_encode(buffer, 3, raw);
-    kovrel::ident::encoded(out, buffer, kLength);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_time_of_day_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    kovrel::TextWriter w(buffer, size);
-    AstTimeOfDay t;
-    ast_dataitem_time_of_day_decode(&t, item);
-    if (!t.valid) return;
-    w.appendf("TOD:%02d:%02d:%02d.%03d", static_cast<int>(t.hour), static_cast<int>(t.minute),
-              static_cast<int>(t.second), static_cast<int>(t.millisecond));
+    items::describe(buffer, size, item, ast_dataitem_time_of_day_decode, [](TextWriter &w, const auto &t) {
+        w.appendf("TOD:%02d:%02d:%02d.%03d", static_cast<int>(t.hour), static_cast<int>(t.minute),
+                  static_cast<int>(t.second), static_cast<int>(t.millisecond));
+    });
 }
 
 KOVREL_API void ast_dataitem_time_of_day_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
-    kovrel::ident::HtmlView view(buffer, size);
-    AstTimeOfDay t;
-    ast_dataitem_time_of_day_decode(&t, item);
-    if (!t.valid) return;
-
-    char raw[16];
-    char whole[16];
-    char hour[16];
-    char minute[16];
-    char second[16];
-    char millisecond[16];
-    std::snprintf(raw, sizeof raw, "%u", static_cast<unsigned>(t.raw));
-    std::snprintf(whole, sizeof whole, "%u", static_cast<unsigned>(t.raw >> 7));
-    std::snprintf(hour, sizeof hour, "%2u", static_cast<unsigned>(t.hour));
-    std::snprintf(minute, sizeof minute, "%2u", static_cast<unsigned>(t.minute));
-    std::snprintf(second, sizeof second, "%2u", static_cast<unsigned>(t.second));
-    std::snprintf(millisecond, sizeof millisecond, "%3u", static_cast<unsigned>(t.millisecond));
-
-    view.table_begin();
-    view.header("Name", "Value");
-    view.row("TIME LSB=1/128S", raw);
-    view.row("TIME LSB=1S", whole);
-    view.row("HOUR", hour);
-    view.row("MINUTE", minute);
-    view.row("SECOND", second);
-    view.row("MILLISECOND", millisecond);
-    view.table_end();
+    items::describe(buffer, size, item, ast_dataitem_time_of_day_decode, [](TextWriter &w, const auto &tod) {
+        items::DetailTable t(w);
+        t.header("Name", "Value");
+        t.valuef("TIME LSB=1/128S", "%u", static_cast<unsigned>(tod.raw));
+        t.valuef("TIME LSB=1S", "%u", static_cast<unsigned>(tod.raw >> 7));
+        t.valuef("HOUR", "%2u", static_cast<unsigned>(tod.hour));
+        t.valuef("MINUTE", "%2u", static_cast<unsigned>(tod.minute));
+        t.valuef("SECOND", "%2u", static_cast<unsigned>(tod.second));
+        t.valuef("MILLISECOND", "%3u", static_cast<unsigned>(tod.millisecond));
+        t.end();
+    });
 }
 
 }  // extern "C"

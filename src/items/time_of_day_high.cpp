@@ -2,13 +2,14 @@
 // fraction of the second in 30 bits, LSB 2^-30 s. The FSI tells whether the
 // whole second of the accompanying time of day is the same, the next or the
 // previous one.
-#include <cstdio>
-
-#include "items/ident_support.h"
+#include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_ident.h"
 
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 constexpr uint64_t kLength = 4;
 constexpr double kLsb = 1.0 / 1073741824.0;  // 2^-30 s
@@ -33,7 +34,7 @@ KOVREL_API void ast_dataitem_time_of_day_high_init(AstTimeOfDayHigh *out) {
 KOVREL_API void ast_dataitem_time_of_day_high_decode(AstTimeOfDayHigh *out, const AstDataItem *item) {
     if (!out) return;
     ast_dataitem_time_of_day_high_init(out);
-    if (!kovrel::ident::span_ok(item, kLength)) return;
+    if (!items::span_ok(item, kLength)) return;
     uint32_t word = 0;
     ast_unsigned_decode(&word, item->data, 4);
     out->fsi = fsi_of(word >> 30);
@@ -43,33 +44,21 @@ KOVREL_API void ast_dataitem_time_of_day_high_decode(AstTimeOfDayHigh *out, cons
 }
 
 KOVREL_API void ast_dataitem_time_of_day_high_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    kovrel::TextWriter w(buffer, size);
-    AstTimeOfDayHigh t;
-    ast_dataitem_time_of_day_high_decode(&t, item);
-    if (!t.valid) return;
-    w.appendf("FSI:%d TOMR:%.6f", static_cast<int>(t.fsi), t.fraction);
+    items::describe(buffer, size, item, ast_dataitem_time_of_day_high_decode, [](TextWriter &w, const auto &t) {
+        w.appendf("FSI:%d TOMR:%.6f", static_cast<int>(t.fsi), t.fraction);
+    });
 }
 
 KOVREL_API void ast_dataitem_time_of_day_high_get_detail_html(char *buffer, size_t size,
                                                               const AstDataItem *item) {
-    kovrel::ident::HtmlView view(buffer, size);
-    AstTimeOfDayHigh t;
-    ast_dataitem_time_of_day_high_decode(&t, item);
-    if (!t.valid) return;
-
-    char fsi[16];
-    char raw[16];
-    char seconds[48];
-    std::snprintf(fsi, sizeof fsi, "%d", static_cast<int>(t.fsi));
-    std::snprintf(raw, sizeof raw, "%u", static_cast<unsigned>(t.raw));
-    std::snprintf(seconds, sizeof seconds, "%f", t.fraction);
-
-    view.table_begin();
-    view.header("Name", "Value");
-    view.row("FSI", fsi);
-    view.row("TIME LSB=2^-30S", raw);
-    view.row("TIME LSB=S", seconds);
-    view.table_end();
+    items::describe(buffer, size, item, ast_dataitem_time_of_day_high_decode, [](TextWriter &w, const auto &tod) {
+        items::DetailTable t(w);
+        t.header("Name", "Value");
+        t.valuef("FSI", "%d", static_cast<int>(tod.fsi));
+        t.valuef("TIME LSB=2^-30S", "%u", static_cast<unsigned>(tod.raw));
+        t.valuef("TIME LSB=S", "%f", tod.fraction);
+        t.end();
+    });
 }
 
 }  // extern "C"

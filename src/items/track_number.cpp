@@ -1,10 +1,13 @@
 // Track number: two octets. Most categories give the number 12 bits under
 // four spare bits; a few items use all 16 bits.
-#include "items/ident_support.h"
+#include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_ident.h"
 
 namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
 
 constexpr uint64_t kLength = 2;
 
@@ -32,7 +35,7 @@ KOVREL_API void ast_dataitem_track_number_init(AstTrackNumber *out) {
 KOVREL_API void ast_dataitem_track_number_decode(AstTrackNumber *out, const AstDataItem *item) {
     if (!out) return;
     ast_dataitem_track_number_init(out);
-    if (!kovrel::ident::span_ok(item, kLength)) return;
+    if (!items::span_ok(item, kLength)) return;
     uint32_t number = 0;
     if (sixteen_bit_item(item->id)) {
         ast_unsigned_decode(&number, item->data, 2);
@@ -46,22 +49,18 @@ KOVREL_API void ast_dataitem_track_number_decode(AstTrackNumber *out, const AstD
 
 KOVREL_API void ast_dataitem_track_number_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                  const AstTrackNumber *in) {
-    if (!out) return;
-    kovrel::ident::encode_failed(out, buffer);
-    if (!in || !buffer || size < kLength || in->valid != 1) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
+    if (!in || in->valid != 1) return;
     const uint32_t limit = in->twelve_bit == 1 ? 0x0FFFu : 0xFFFFu;
     if (in->number > limit) return;
     // Within the limit the spare bits of the 12-bit form come out as 0.
     ast_unsigned_encode(buffer, 2, in->number);
-    kovrel::ident::encoded(out, buffer, kLength);
+    items::encode_done(out, buffer, kLength);
 }
 
 KOVREL_API void ast_dataitem_track_number_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    kovrel::TextWriter w(buffer, size);
-    AstTrackNumber tn;
-    ast_dataitem_track_number_decode(&tn, item);
-    if (!tn.valid) return;
-    w.appendf("TRACK_NUM:%04d", static_cast<int>(tn.number));
+    items::describe(buffer, size, item, ast_dataitem_track_number_decode,
+                    [](TextWriter &w, const auto &tn) { w.appendf("TRACK_NUM:%04d", static_cast<int>(tn.number)); });
 }
 
 }  // extern "C"

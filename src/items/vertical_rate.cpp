@@ -1,15 +1,16 @@
 // Vertical rate, LSB 6.25 ft/min, in two layouts: with a range-exceeded bit
 // (bit 16) above a 15-bit two's complement rate, and as a plain 16-bit two's
 // complement rate.
-#include <cstdio>
-
 #include "items/motion_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_motion.h"
 
-namespace kovrel {
 namespace {
 
+using kovrel::TextWriter;
+namespace items = kovrel::items;
+
+constexpr uint64_t kLength = 2;
 constexpr double kLsbFeet = 6.25;
 constexpr double kLsbMetres = 1.905;  // 6.25 ft
 constexpr uint8_t kRangeExceeded = 0x80;
@@ -20,7 +21,7 @@ void init(AstVerticalRate *out) {
 
 void decode(AstVerticalRate *out, const AstDataItem *item, bool with_re) {
     init(out);
-    if (!out || !motion::exact_span(item, 2)) return;
+    if (!out || !items::span_ok(item, kLength)) return;
     int32_t raw = 0;
     uint8_t re = 0;
     if (with_re) {
@@ -33,12 +34,11 @@ void decode(AstVerticalRate *out, const AstDataItem *item, bool with_re) {
 }
 
 void encode(AstDataItem *out, uint8_t *buffer, size_t size, const AstVerticalRate *in, bool with_re) {
-    if (!out) return;
-    motion::encode_result(out, buffer, 0);
-    if (!in || !buffer || size < 2 || in->valid == 0) return;
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
+    if (!in || in->valid == 0) return;
     // A non-zero rate (NaN included) means the caller filled the value; a
     // zero rate sends the raw field.
-    const int32_t raw = in->value != 0.0 ? motion::truncate_i32(in->value / kLsbFeet) : in->raw;
+    const int32_t raw = in->value != 0.0 ? items::truncate_i32(in->value / kLsbFeet) : in->raw;
     buffer[0] = 0;
     buffer[1] = 0;
     if (with_re) {
@@ -47,75 +47,61 @@ void encode(AstDataItem *out, uint8_t *buffer, size_t size, const AstVerticalRat
     } else {
         ast_twos_complement_encode(buffer, 2, raw);
     }
-    motion::encode_result(out, buffer, 2);
+    items::encode_done(out, buffer, kLength);
 }
 
-void summary(char *buffer, size_t size, const AstDataItem *item, bool with_re) {
-    TextWriter w(buffer, size);
-    AstVerticalRate vr;
-    decode(&vr, item, with_re);
-    if (vr.valid != 1) return;
-    w.appendf("VR:%.2fFT/M", vr.value);
-}
+void summary(TextWriter &w, const AstVerticalRate &vr) { w.appendf("VR:%.2fFT/M", vr.value); }
 
-void detail(char *buffer, size_t size, const AstDataItem *item, bool with_re) {
-    TextWriter w(buffer, size);
-    AstVerticalRate vr;
-    decode(&vr, item, with_re);
-    if (vr.valid != 1) return;
-    char text[32];
-    motion::table_begin(w, "Bit", "Item", "Value");
-    std::snprintf(text, sizeof text, "%d", vr.raw);
-    motion::table_row(w, "Bit[0-15]", "VERTICAL_RATE LSB=6.25FT/M", text);
-    std::snprintf(text, sizeof text, "%.2f", vr.value);
-    motion::table_row(w, "Bit[0-15]", "VERTICAL_RATE LSB=FT/M", text);
-    std::snprintf(text, sizeof text, "%.2f", vr.raw * kLsbMetres);
-    motion::table_row(w, "Bit[0-15]", "VERTICAL_RATE LSB=METER/M", text);
-    motion::table_end(w);
+void detail(TextWriter &w, const AstVerticalRate &vr) {
+    items::DetailTable t(w);
+    t.header("Bit", "Item", "Value");
+    t.rowf("Bit[0-15]", "VERTICAL_RATE LSB=6.25FT/M", "%d", vr.raw);
+    t.rowf("Bit[0-15]", "VERTICAL_RATE LSB=FT/M", "%.2f", vr.value);
+    t.rowf("Bit[0-15]", "VERTICAL_RATE LSB=METER/M", "%.2f", vr.raw * kLsbMetres);
+    t.end();
 }
 
 }  // namespace
-}  // namespace kovrel
 
 extern "C" {
 
-KOVREL_API void ast_dataitem_vertical_rate_init(AstVerticalRate *out) { kovrel::init(out); }
+KOVREL_API void ast_dataitem_vertical_rate_init(AstVerticalRate *out) { init(out); }
 
 KOVREL_API void ast_dataitem_vertical_rate_decode(AstVerticalRate *out, const AstDataItem *item) {
-    kovrel::decode(out, item, true);
+    decode(out, item, true);
 }
 
 KOVREL_API void ast_dataitem_vertical_rate_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                   const AstVerticalRate *in) {
-    kovrel::encode(out, buffer, size, in, true);
+    encode(out, buffer, size, in, true);
 }
 
 KOVREL_API void ast_dataitem_vertical_rate_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    kovrel::summary(buffer, size, item, true);
+    items::describe(buffer, size, item, ast_dataitem_vertical_rate_decode, summary);
 }
 
 KOVREL_API void ast_dataitem_vertical_rate_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
-    kovrel::detail(buffer, size, item, true);
+    items::describe(buffer, size, item, ast_dataitem_vertical_rate_decode, detail);
 }
 
-KOVREL_API void ast_dataitem_vertical_rate_no_re_init(AstVerticalRateNoRe *out) { kovrel::init(out); }
+KOVREL_API void ast_dataitem_vertical_rate_no_re_init(AstVerticalRateNoRe *out) { init(out); }
 
 KOVREL_API void ast_dataitem_vertical_rate_no_re_decode(AstVerticalRateNoRe *out, const AstDataItem *item) {
-    kovrel::decode(out, item, false);
+    decode(out, item, false);
 }
 
 KOVREL_API void ast_dataitem_vertical_rate_no_re_encode(AstDataItem *out, uint8_t *buffer, size_t size,
                                                         const AstVerticalRateNoRe *in) {
-    kovrel::encode(out, buffer, size, in, false);
+    encode(out, buffer, size, in, false);
 }
 
 KOVREL_API void ast_dataitem_vertical_rate_no_re_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    kovrel::summary(buffer, size, item, false);
+    items::describe(buffer, size, item, ast_dataitem_vertical_rate_no_re_decode, summary);
 }
 
 KOVREL_API void ast_dataitem_vertical_rate_no_re_get_detail_html(char *buffer, size_t size,
                                                                  const AstDataItem *item) {
-    kovrel::detail(buffer, size, item, false);
+    items::describe(buffer, size, item, ast_dataitem_vertical_rate_no_re_decode, detail);
 }
 
 }  // extern "C"
