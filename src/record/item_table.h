@@ -46,19 +46,19 @@ struct CompoundItem {
     const char *unknown_id;   // id text of a subfield the item does not have
 };
 
+// The item's subfield functions are handed out without the summary or
+// detail slot when no row has one (see compound_funcs), so capabilities tell
+// callers whether subfields have summaries and views. That is decided at run
+// time: comparing function addresses is not a constant expression in
+// sanitizer builds.
 template <size_t N>
 constexpr CompoundItem make_compound(uint32_t subfield_count, const SubfieldRow (&rows)[N],
                                      AstSubfieldFuncs funcs, const char *unknown_id = "---") {
-    bool summary = false, detail = false;
-    for (const SubfieldRow &r : rows) {
-        summary = summary || r.get_summary != nullptr;
-        detail = detail || r.get_detail_html != nullptr;
-    }
-    // Capabilities tell callers whether subfields have summaries and views.
-    if (!summary) funcs.get_summary = nullptr;
-    if (!detail) funcs.get_detail_html = nullptr;
     return CompoundItem{subfield_count, rows, N, funcs, unknown_id};
 }
+
+// The subfield functions of a compound item as callers see them.
+AstSubfieldFuncs compound_funcs(const CompoundItem &c);
 
 // Row-driven behaviour behind every compound item's exported subfield
 // functions (see KOVREL_COMPOUND_ITEM). A subfield id of another item or

@@ -29,7 +29,7 @@ KOVREL_API void ast_subfield_get_func(AstSubfieldFuncs *out, uint32_t subfield_i
     if (!out) return;
     *out = AstSubfieldFuncs{};
     const kovrel::CompoundItem *c = compound_of(subfield_id / 1000);
-    if (c) *out = c->funcs;
+    if (c) *out = kovrel::compound_funcs(*c);
 }
 
 KOVREL_API uint64_t ast_subfield_get_size(const uint8_t *octets, size_t available, uint32_t subfield_id) {
