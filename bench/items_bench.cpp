@@ -3,44 +3,20 @@
 // summarise, render or structurally decode every item of every record.
 #include <benchmark/benchmark.h>
 
-#include <cstring>
 #include <memory>
 #include <vector>
 
 #include "kovrel/kovrel.h"
-#include "sample.h"
+#include "sample_datagrams.h"
 
 namespace {
-
-// The UDP payloads of the sample pcap (classic pcap, Ethernet, IPv4, UDP as
-// the generator writes them).
-std::vector<std::vector<uint8_t>> sample_datagrams() {
-    std::vector<std::vector<uint8_t>> out;
-    const uint8_t *p = kovrel_tool::kSamplePcap;
-    const size_t n = kovrel_tool::kSamplePcapSize;
-    size_t pos = 24;
-    while (pos + 16 <= n) {
-        uint32_t caplen;
-        std::memcpy(&caplen, p + pos + 8, 4);  // little-endian writer, little-endian host
-        pos += 16;
-        if (caplen > n - pos) break;
-        const uint8_t *frame = p + pos;
-        if (caplen > 14 + 20 + 8) {
-            const size_t ihl = static_cast<size_t>(frame[14] & 0x0F) * 4;
-            const size_t start = 14 + ihl + 8;
-            if (start < caplen) out.emplace_back(frame + start, frame + caplen);
-        }
-        pos += caplen;
-    }
-    return out;
-}
 
 // Runs `per_item` over every item of the decoded sample, counting records
 // and items.
 template <typename PerItem>
 void run_sample(benchmark::State &state, PerItem per_item) {
     ast_log_handler_reg(nullptr);
-    const auto datagrams = sample_datagrams();
+    const auto datagrams = kovrel_bench::sample_datagrams();
     auto block = std::make_unique<AstDataBlock>();
     size_t records = 0, items = 0, bytes = 0;
     for (auto _ : state) {

@@ -1,6 +1,7 @@
 // Decodes arbitrary octets as a data block with every profile, the smart and
 // the CAT001 mixed decoders, then runs every view of every record and item
-// found, and copies and rewrites every record.
+// found, copies and rewrites every record, disassembles and assembles every
+// CAT048 record, and assembles CAT048 records from arbitrary member values.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -67,6 +68,67 @@ void exercise_item(const AstDataItem &item) {
     }
 }
 
+// Disassembles a CAT048 record and assembles it into a buffer of its own
+// length and into shorter ones: never longer than the buffer, and what is
+// written is a record that decodes to the length assemble reported.
+void exercise_record_048(const AstDataRecord &record) {
+    static AstRecord048 disassembled;
+    static AstDataRecord assembled;
+    static AstDataRecord decoded;
+    ast_datarecord_048_disassemble(&disassembled, &record);
+    if (record.valid != 1 || record.category != 48) {
+        if (disassembled.valid != 0) __builtin_trap();
+        return;
+    }
+    if (disassembled.valid != 1) __builtin_trap();
+    const size_t length = static_cast<size_t>(record.length);
+    // As disassembled, then without the members that have no encoder.
+    for (int pass = 0; pass < 2; ++pass) {
+        for (size_t shorter = 0; shorter <= 3 && shorter <= length; ++shorter) {
+            const size_t size = length - shorter;
+            ast_datarecord_048_assemble(&assembled, g_buffer, size, &disassembled, &record.uap);
+            if (assembled.valid != 1) continue;
+            if (assembled.length > size) __builtin_trap();
+            ast_datarecord_decode(&decoded, g_buffer, static_cast<size_t>(assembled.length), 48,
+                                  &AST_UAP_STANDARD);
+            if (decoded.valid != 1 || decoded.length != assembled.length) __builtin_trap();
+        }
+        AstRecord048 &d = disassembled;
+        d.i030.valid = d.i042.valid = d.i080.valid = d.i100.valid = d.i110.valid = d.i130.valid = 0;
+        d.i210.valid = d.i230.valid = d.i250.valid = d.i260.valid = 0;
+        d.i170.valid = 0;
+    }
+}
+
+// Members of arbitrary value (octets of the input), the encodable ones
+// switched on by the input's first bits, assembled into a small buffer.
+void exercise_assemble_048(const uint8_t *data, size_t size) {
+    if (size < 3) return;
+    static AstRecord048 in;
+    static AstDataRecord out;
+    std::memset(&in, 0, sizeof in);
+    std::memcpy(&in, data, size < sizeof in ? size : sizeof in);
+    const uint32_t on = data[0] | static_cast<uint32_t>(data[1]) << 8;
+    in.valid = 1;
+    in.i010.valid = on & 1;
+    in.i020.valid = on >> 1 & 1;
+    in.i040.valid = on >> 2 & 1;
+    in.i050.valid = on >> 3 & 1;
+    in.i070.valid = on >> 4 & 1;
+    in.i090.valid = on >> 5 & 1;
+    in.i140.valid = on >> 6 & 1;
+    in.i161.valid = on >> 7 & 1;
+    in.i200.valid = on >> 8 & 1;
+    in.i220.valid = on >> 9 & 1;
+    in.i240.valid = on >> 10 & 1;
+    const size_t room = data[2] % 48;
+    std::memset(g_buffer + room, 0xA5, 64);
+    ast_datarecord_048_assemble(&out, g_buffer, room, &in, &AST_UAP_STANDARD);
+    if (out.valid == 1 && out.length > room) __builtin_trap();
+    for (size_t i = room; i < room + 64; ++i)
+        if (g_buffer[i] != 0xA5) __builtin_trap();
+}
+
 void exercise_block(const AstDataBlock &block) {
     const uint64_t records = block.record_count < AST_DATABLOCK_MAX_RECORDS ? block.record_count : 0;
     for (uint64_t r = 0; r < records; ++r) {
@@ -83,6 +145,15 @@ void exercise_block(const AstDataBlock &block) {
         ast_datarecord_get_sacsic(&sacsic, &record);
         AstRecordCallsign callsign;
         ast_datarecord_get_callsign(&callsign, &record);
+        if (record.category == 48) {
+            AstRecordValue value;
+            ast_datarecord_get_flightlevel(&value, &record);
+            ast_datarecord_get_selaltitude(&value, &record);
+            ast_datarecord_get_heading(&value, &record);
+            AstRecordPolar polar;
+            ast_datarecord_get_polarcoord(&polar, &record);
+            exercise_record_048(record);
+        }
     }
     ast_datablock_modify(&g_rewritten, g_buffer, sizeof g_buffer, &block, nullptr);
     if (block.valid == 1 && g_rewritten.valid == 1 && g_rewritten.length != block.length) __builtin_trap();
@@ -117,6 +188,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         AstDataRecord record;
         ast_datarecord_decode(&record, data + 1, size - 1, data[0], &AST_UAP_STANDARD);
         for (uint64_t i = 0; i < record.item_count; ++i) exercise_item(record.items[i]);
+        if (record.category == 48) exercise_record_048(record);
     }
+    exercise_assemble_048(data, size);
     return 0;
 }

@@ -6,6 +6,7 @@ namespace kovrel {
 
 const AstDataRecordFuncs *find_record_funcs(uint32_t category) {
     switch (category) {
+        case 48: return &kRecordFuncs048;
         default: return nullptr;
     }
 }

@@ -8,4 +8,7 @@ namespace kovrel {
 // The accessors of a category, or nullptr when it has none yet.
 const AstDataRecordFuncs *find_record_funcs(uint32_t category);
 
+// Accessor tables, one per category folder.
+extern const AstDataRecordFuncs kRecordFuncs048;
+
 }  // namespace kovrel

@@ -1,6 +1,7 @@
 // Decoding allocates nothing: malloc and operator new are interposed and
 // counted while a recording of several categories is decoded, summarised,
-// rendered and rewritten. Built without sanitizers (they own malloc).
+// rendered, rewritten, and (CAT048) disassembled and assembled again. Built
+// without sanitizers (they own malloc).
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -91,6 +92,8 @@ char g_text[1 << 15];
 uint8_t g_buffer[1 << 16];
 alignas(16) uint8_t g_storage[1 << 14];
 uint8_t g_encoded[1 << 12];
+AstRecord048 g_record048;
+AstDataRecord g_assembled;
 
 size_t exercise(const std::vector<uint8_t> &s) {
     size_t records = 0;
@@ -120,6 +123,18 @@ size_t exercise(const std::vector<uint8_t> &s) {
             ast_datarecord_get_detail_html(g_text, sizeof g_text, &record);
             AstDataSourceIdentifier sacsic;
             ast_datarecord_get_sacsic(&sacsic, &record);
+            if (record.category == 48) {
+                ast_datarecord_048_disassemble(&g_record048, &record);
+                // As disassembled (I048/130 and 170 have no encoder), then without them.
+                for (int pass = 0; pass < 2; ++pass) {
+                    ast_datarecord_048_assemble(&g_assembled, g_encoded, sizeof g_encoded, &g_record048,
+                                                &AST_UAP_STANDARD);
+                    g_record048.i130.valid = 0;
+                    g_record048.i170.valid = 0;
+                }
+                AstRecordValue heading;
+                ast_datarecord_get_heading(&heading, &record);
+            }
         }
         ast_datablock_modify(&g_rewritten, g_buffer, sizeof g_buffer, &g_block, nullptr);
         if (len < 3 || p + len > s.size()) break;

@@ -1,20 +1,142 @@
-// CAT048 items served by the common items: summaries, capabilities and the
-// structured decode and encode reached through the item dispatch.
+// CAT048 items served by the common items (summaries, capabilities, the
+// structured decode and encode reached through the item dispatch), and the
+// record level: disassemble, assemble and the record accessors.
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <string>
 #include <vector>
 
 #include "kovrel/cat048.h"
+#include "kovrel/core.h"
 #include "kovrel/datarecord.h"
+#include "kovrel/enums.h"
+#include "support/log_capture.h"
 #include "support/record_walk.h"
 #include "support/served.h"
 
 using kovrel_test::expect_served;
+using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 
 namespace {
+
+AstDataRecord decode48(const Octets &o) {
+    AstDataRecord r;
+    ast_datarecord_decode(&r, o.data(), o.size(), 48, &AST_UAP_STANDARD);
+    return r;
+}
+// The record points into the octets: they must outlive it.
+AstDataRecord decode48(Octets &&) = delete;
+
+template <typename T>
+bool all_zero(const T &v) {
+    const auto *p = reinterpret_cast<const uint8_t *>(&v);
+    for (size_t i = 0; i < sizeof v; ++i)
+        if (p[i] != 0) return false;
+    return true;
+}
+
+std::vector<AstItemId> ids_of(const AstDataRecord &r) {
+    std::vector<AstItemId> ids;
+    for (uint64_t i = 0; i < r.item_count; ++i) ids.push_back(r.items[i].id);
+    return ids;
+}
+
+// Mode S registers: 4,0 with an MCP/FCU selected altitude of 1500 x 16 ft,
+// 5,0 with a true track of 256 x 90/512 degrees, 6,0 with a magnetic heading
+// of 512 x 90/512 degrees; 5,0 without its track status bit.
+const Octets kBds40 = {0xAE, 0xE0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x40};
+const Octets kBds50 = {0x00, 0x12, 0x00, 0x00, 0x00, 0x00, 0x00, 0x50};
+const Octets kBds60 = {0xA0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x60};
+const Octets kBds50NoTrack = {0x00, 0x02, 0x00, 0x00, 0x00, 0x00, 0x00, 0x50};
+constexpr double kSelected = 1500 * 16.0;
+constexpr double kTrueTrack = 256 * 90.0 / 512;
+constexpr double kMagnetic = 512 * 90.0 / 512;
+
+Octets cat(std::initializer_list<Octets> parts) {
+    Octets o;
+    for (const Octets &p : parts) o.insert(o.end(), p.begin(), p.end());
+    return o;
+}
+
+// I048/250 with the given registers.
+Octets mb(std::initializer_list<Octets> registers) {
+    Octets o = {static_cast<uint8_t>(registers.size())};
+    for (const Octets &r : registers) o.insert(o.end(), r.begin(), r.end());
+    return o;
+}
+
+// A plot: 010, 140, 020, 040, 070, 090, 130, 220, 240, 250 (4,0 and 6,0), 120.
+Octets plot() {
+    return cat({{0xFF, 0xE1, 0x04},
+                {0x19, 0x0D},                          // 010: SAC 25, SIC 13
+                {0x35, 0x6B, 0x01},                    // 140
+                {0xA0},                                // 020: TYP 5
+                {0x4E, 0x20, 0x55, 0x00},              // 040
+                {0x0A, 0x3F},                          // 070
+                {0x01, 0x40},                          // 090: 320 quarter FL
+                {0xE0, 0x1A, 0x08, 0xB5},              // 130: SRL, SRR, SAM
+                {0x3C, 0x66, 0x01},                    // 220
+                {0x20, 0xC3, 0x1C, 0x76, 0x08, 0x20},  // 240
+                mb({kBds40, kBds60}),                  // 250
+                {0x80, 0x00, 0x10}});                  // 120: CAL
+}
+
+// A track of every item with a member but 110 and 130.
+Octets track() {
+    return cat({{0xFD, 0xFF, 0xF3, 0xA0},
+                {0x19, 0x01},                                // 010
+                {0x58, 0x78, 0x65},                          // 140: 12:34:56.789
+                {0x41, 0x80},                                // 020: TYP 2, TST
+                {0x2A, 0x80, 0x40, 0x00},                    // 040: RHO 42.5 NM, THETA 90
+                {0x0A, 0x3F},                                // 070
+                {0x05, 0x78},                                // 090: FL 350
+                {0x3C, 0x65, 0x4A},                          // 220
+                {0x10, 0xC2, 0x31, 0xCB, 0x38, 0x20},        // 240: "DLH123  "
+                mb({kBds60, kBds50}),                        // 250
+                {0x01, 0x23},                                // 161
+                {0x01, 0x00, 0xFF, 0x00},                    // 042: X 256, Y -256
+                {0x08, 0x00, 0x40, 0x00},                    // 200
+                {0x40},                                      // 170: RAD 2
+                {0x04, 0x08, 0x10, 0x20},                    // 210
+                {0x2F, 0x50},                                // 030: codes 23, 40
+                {0x08, 0x00},                                // 080
+                {0x84, 0x40, 0x00, 0x00},                    // 100
+                {0x20, 0x80},                                // 230
+                {0x30, 0x80, 0x00, 0x00, 0x00, 0x00, 0x00},  // 260
+                {0xA1, 0x23}});                              // 050: V, L, code 0443
+}
+
+// Only items that have encoders: 010, 140, 020, 040, 070, 090, 220, 240,
+// 161, 200 and 050.
+Octets encodable() {
+    return cat({{0xFD, 0xD5, 0x01, 0x20},
+                {0x19, 0x0D},
+                {0x35, 0x6B, 0x01},
+                {0x41, 0x80},
+                {0x4E, 0x20, 0x55, 0x00},
+                {0x0A, 0x3F},
+                {0x01, 0x40},
+                {0x3C, 0x66, 0x01},
+                {0x10, 0xC2, 0x31, 0xCB, 0x38, 0x20},
+                {0x0F, 0x01},
+                {0x07, 0xD0, 0x40, 0x00},
+                {0xA1, 0x23}});
+}
+
+// Assembles into a buffer of `size` octets followed by a canary, and
+// expects the canary untouched.
+AstDataRecord assemble_guarded(const AstRecord048 &in, size_t size, Octets *written) {
+    Octets buffer(size + 16, 0xA5);
+    AstDataRecord out;
+    ast_datarecord_048_assemble(&out, buffer.data(), size, &in, &AST_UAP_STANDARD);
+    for (size_t i = size; i < buffer.size(); ++i) EXPECT_EQ(buffer[i], 0xA5) << "octet " << i << " past the buffer";
+    if (written) written->assign(buffer.begin(), buffer.begin() + static_cast<ptrdiff_t>(out.valid ? out.length : 0));
+    return out;
+}
 
 }  // namespace
 
@@ -67,4 +189,272 @@ TEST(Cat048, CommonItemsOfATrackReport) {
     ast_dataitem_decode(&v, &spf, sizeof spf, &r.items[11]);
     EXPECT_EQ(spf.length, 2u);
     EXPECT_EQ(spf.data, r.items[11].data + 1);
+}
+
+TEST(Cat048Record, DisassemblesPlotsAndTracksIntoTheirMembers) {
+    const Octets track_wire = track(), plot_wire = plot();
+    const AstDataRecord t = decode48(track_wire), p = decode48(plot_wire);
+    ASSERT_EQ(t.valid, 1);
+    ASSERT_EQ(p.valid, 1);
+    AstRecord048 d;
+    std::memset(&d, 0x5A, sizeof d);  // disassemble starts from zero
+    ast_datarecord_048_disassemble(&d, &t);
+    const uint32_t filled[] = {d.valid,       d.i010.valid, d.i020.valid, d.i030.valid, d.i040.valid, d.i042.valid,
+                               d.i050.valid,  d.i070.valid, d.i080.valid, d.i090.valid, d.i100.valid, d.i140.valid,
+                               d.i161.valid,  d.i170.valid, d.i200.valid, d.i210.valid, d.i220.valid, d.i230.valid,
+                               d.i240.valid,  d.i250.valid, d.i260.valid};
+    for (uint32_t valid : filled) EXPECT_EQ(valid, 1u);
+    // Each member holds its own item.
+    EXPECT_EQ(d.i010.sic, 1u);
+    EXPECT_EQ(d.i020.tst, 1);
+    EXPECT_DOUBLE_EQ(d.i040.rho, 0x2A80 / 256.0);
+    EXPECT_EQ(d.i042.y, -256);
+    EXPECT_EQ(d.i161.number, 0x123u);
+    EXPECT_EQ(d.i030.codes[1], 0x50u >> 1);
+    EXPECT_EQ(d.i250.bds[1].id, 0x50u);
+    EXPECT_EQ(d.i050.v, 1);  // after a one-octet valid flag
+    EXPECT_EQ(d.i050.code, 0443u);
+    EXPECT_TRUE(all_zero(d.i110));
+    EXPECT_TRUE(all_zero(d.i130));
+
+    // The plot's I048/120 has no member: logged, skipped, the rest decoded.
+    LogCapture log;
+    ast_datarecord_048_disassemble(&d, &p);
+    EXPECT_TRUE(log.contains(AST_LOG_DEBUG, "Failed to disassemble dataitem I048/120."));
+    EXPECT_EQ(log.size(), 1u);
+    EXPECT_EQ(d.valid, 1u);
+    EXPECT_EQ(d.i130.srr, 0x08u);
+    EXPECT_EQ(d.i250.bds[0].id, 0x40u);
+    EXPECT_TRUE(all_zero(d.i161));
+    EXPECT_TRUE(all_zero(d.i170));
+    EXPECT_TRUE(all_zero(d.i050));
+    EXPECT_TRUE(all_zero(d.i260));
+}
+
+TEST(Cat048Record, RefusesRecordsItCannotDisassemble) {
+    AstRecord048 d;
+    Octets truncated = encodable();
+    truncated.resize(12);  // the FSPEC announces I048/040 that is not there
+    AstDataRecord r = decode48(truncated);
+    ASSERT_EQ(r.valid, 0);
+    ASSERT_GT(r.item_count, 0u);
+    std::memset(&d, 0x5A, sizeof d);
+    ast_datarecord_048_disassemble(&d, &r);
+    EXPECT_TRUE(all_zero(d));
+
+    const Octets marker = {0xE0, 0x19, 0x0D, 0x01, 0x35, 0x6B, 0x01};  // a CAT034 record
+    ast_datarecord_decode(&r, marker.data(), marker.size(), 34, &AST_UAP_STANDARD);
+    ASSERT_EQ(r.valid, 1);
+    std::memset(&d, 0x5A, sizeof d);
+    ast_datarecord_048_disassemble(&d, &r);
+    EXPECT_TRUE(all_zero(d));
+
+    // A valid record without items: valid and nothing else.
+    const Octets wire = encodable();
+    r = decode48(wire);
+    r.item_count = 0;
+    std::memset(&d, 0x5A, sizeof d);
+    ast_datarecord_048_disassemble(&d, &r);
+    EXPECT_EQ(d.valid, 1u);
+    d.valid = 0;
+    EXPECT_TRUE(all_zero(d));
+    ast_datarecord_048_disassemble(&d, nullptr);
+    EXPECT_TRUE(all_zero(d));
+}
+
+TEST(Cat048Record, AssembleReproducesTheRecord) {
+    const Octets wire = encodable();
+    const AstDataRecord r = decode48(wire);
+    ASSERT_EQ(r.valid, 1);
+    AstRecord048 d;
+    ast_datarecord_048_disassemble(&d, &r);
+    Octets written;
+    AstDataRecord out = assemble_guarded(d, wire.size(), &written);
+    ASSERT_EQ(out.valid, 1);
+    EXPECT_EQ(out.category, 48u);
+    EXPECT_EQ(written, wire);
+    EXPECT_EQ(assemble_guarded(d, wire.size() - 1, nullptr).valid, 0);
+
+    // Members whose valid flag is not 1 are left out, the others stay.
+    d.i161.valid = 0;
+    d.i050.valid = 0;
+    out = assemble_guarded(d, wire.size(), &written);
+    ASSERT_EQ(out.valid, 1);
+    EXPECT_EQ(out.length, wire.size() - 2 - 2 - 2);  // two items, and the FSPEC octets only 050 needed
+    std::vector<AstItemId> expected = ids_of(r);
+    std::erase(expected, 48161u);
+    std::erase(expected, 48050u);
+    EXPECT_EQ(ids_of(decode48(written)), expected);
+}
+
+TEST(Cat048Record, AssembleFailsOnWhatItCannotWrite) {
+    AstRecord048 d{};
+    d.valid = 1;
+    d.i010 = AstDataSourceIdentifier{1, 300, 1};
+    d.i161 = AstTrackNumber{1, 4095, 1};
+    EXPECT_EQ(assemble_guarded(d, 8, nullptr).valid, 0);
+    d.i010.sac = 30;
+    EXPECT_EQ(assemble_guarded(d, 8, nullptr).valid, 1);
+    d.i161.number = 4096;  // beyond the 12-bit form
+    EXPECT_EQ(assemble_guarded(d, 8, nullptr).valid, 0);
+
+    // An item without an encoder makes the record invalid; it is not dropped.
+    const Octets wire = track();
+    const AstDataRecord r = decode48(wire);
+    ast_datarecord_048_disassemble(&d, &r);
+    LogCapture log;
+    EXPECT_EQ(assemble_guarded(d, 256, nullptr).valid, 0);
+    EXPECT_TRUE(log.contains(AST_LOG_DEBUG, "Failed to encode dataitem I048/250."));
+
+    AstRecord048 empty{};
+    empty.valid = 1;
+    EXPECT_EQ(assemble_guarded(empty, 64, nullptr).valid, 0);
+    AstDataRecord out;
+    uint8_t buffer[64];
+    ast_datarecord_048_assemble(&out, buffer, sizeof buffer, nullptr, &AST_UAP_STANDARD);
+    EXPECT_EQ(out.valid, 0);
+    ast_datarecord_048_assemble(&out, buffer, sizeof buffer, &d, nullptr);
+    EXPECT_EQ(out.valid, 0);
+}
+
+TEST(Cat048Record, Accessors) {
+    const Octets track_wire = track(), plot_wire = plot();
+    const AstDataRecord t = decode48(track_wire);
+    AstDataRecord p = decode48(plot_wire);
+    AstDataSourceIdentifier sacsic;
+    ast_datarecord_048_get_sacsic(&sacsic, &t);
+    EXPECT_EQ(sacsic.sac, 25u);
+    EXPECT_EQ(sacsic.sic, 1u);
+    AstTimeOfDay tod;
+    ast_datarecord_048_get_timeofday(&tod, &t);
+    EXPECT_EQ(tod.raw, 0x587865u);
+    AstRecordMsgType type;
+    ast_datarecord_048_get_msgtype(&type, &t);
+    EXPECT_STREQ(ast_msgtype_to_str(type.value), "Track");
+    ast_datarecord_048_get_msgtype(&type, &p);
+    EXPECT_STREQ(ast_msgtype_to_str(type.value), "Plot");
+    AstTrackNumber number;
+    ast_datarecord_048_get_tracknum(&number, &t);
+    EXPECT_EQ(number.number, 0x123u);
+    ast_datarecord_048_get_tracknum(&number, &p);
+    EXPECT_TRUE(all_zero(number));
+    AstMode3aCode squawk;
+    ast_datarecord_048_get_squawk(&squawk, &t);
+    EXPECT_EQ(squawk.code, 05077u);
+    AstRecordCallsign callsign;
+    ast_datarecord_048_get_callsign(&callsign, &t);
+    EXPECT_STREQ(callsign.callsign, "DLH123  ");
+    AstTargetAddress address;
+    ast_datarecord_048_get_icaoaddr(&address, &t);
+    EXPECT_EQ(address.address, 0x3C654Au);
+    AstRecordValue v;
+    ast_datarecord_048_get_flightlevel(&v, &t);
+    EXPECT_DOUBLE_EQ(v.value, 0x578 * 25.0);
+    ast_datarecord_048_get_selaltitude(&v, &p);
+    EXPECT_DOUBLE_EQ(v.value, kSelected);
+    ast_datarecord_048_get_selaltitude(&v, &t);  // no BDS 4,0
+    EXPECT_TRUE(all_zero(v));
+    AstRecordPolar polar;
+    ast_datarecord_048_get_polarcoord(&polar, &t);
+    EXPECT_DOUBLE_EQ(polar.rho, 0x2A80 / 256.0);
+    EXPECT_DOUBLE_EQ(polar.theta, 0x4000 * 360.0 / 65536);
+
+    // The plot answers every accessor but the track number; once without
+    // items, and once invalid, none does (SAC/SIC all ones). A record
+    // without items is still a plot, an invalid one has no type.
+    for (int round = 0; round < 3; ++round) {
+        const uint32_t found = round == 0;
+        if (round == 1) p.item_count = 0;
+        if (round == 2) p.valid = 0;
+        ast_datarecord_048_get_sacsic(&sacsic, &p);
+        EXPECT_EQ(sacsic.valid, found);
+        EXPECT_EQ(sacsic.sac, found ? 25u : 0xFFFFFFFFu);
+        EXPECT_EQ(sacsic.sic, found ? 13u : 0xFFFFFFFFu);
+        ast_datarecord_048_get_timeofday(&tod, &p);
+        ast_datarecord_048_get_squawk(&squawk, &p);
+        ast_datarecord_048_get_callsign(&callsign, &p);
+        ast_datarecord_048_get_icaoaddr(&address, &p);
+        ast_datarecord_048_get_polarcoord(&polar, &p);
+        EXPECT_EQ(found, tod.valid && squawk.valid && callsign.valid && address.valid && polar.valid);
+        EXPECT_EQ(!found, all_zero(tod) && all_zero(squawk) && all_zero(callsign) && all_zero(address) &&
+                              all_zero(polar));
+        for (auto get : {ast_datarecord_048_get_flightlevel, ast_datarecord_048_get_selaltitude,
+                         ast_datarecord_048_get_heading}) {
+            get(&v, &p);
+            EXPECT_EQ(v.valid, found);
+            EXPECT_EQ(!found, all_zero(v));
+        }
+        ast_datarecord_048_get_msgtype(&type, &p);
+        EXPECT_EQ(type.valid, round < 2 ? 1u : 0u);
+        EXPECT_EQ(type.value, round < 2 ? 3u : 0u);
+    }
+}
+
+TEST(Cat048Record, HeadingPrefersTheTrueTrackOfBds50) {
+    struct Case {
+        std::initializer_list<Octets> registers;
+        double heading;  // 0: none
+    };
+    const Case cases[] = {
+        {{kBds60, kBds50}, kTrueTrack}, {{kBds50, kBds60}, kTrueTrack}, {{kBds60}, kMagnetic},
+        {{kBds50}, kTrueTrack},         {{kBds50NoTrack, kBds60}, kMagnetic},  // 5,0 without a track angle
+        {{kBds50NoTrack}, 0.0},         {{kBds40}, 0.0},
+    };
+    for (const Case &c : cases) {
+        const Octets wire = cat({{0x01, 0x20}, mb(c.registers)});  // FRN 10 only: I048/250
+        const AstDataRecord r = decode48(wire);
+        ASSERT_EQ(r.valid, 1);
+        AstRecordValue heading;
+        ast_datarecord_048_get_heading(&heading, &r);
+        EXPECT_EQ(heading.valid, c.heading != 0.0 ? 1u : 0u);
+        EXPECT_DOUBLE_EQ(heading.value, c.heading);
+    }
+}
+
+TEST(Cat048Record, FlightLevelFallsBackToTheHeightOf110) {
+    // FRN 6 (090) and 19 (110); 110 raw 0x3FF0 is -16 x 25 ft, the two top
+    // bits of its first octet are not part of the height.
+    const Octets both = {0x05, 0x01, 0x08, 0x01, 0x40, 0xFF, 0xF0};
+    AstDataRecord r = decode48(both);
+    ASSERT_EQ(r.valid, 1);
+    AstRecordValue v;
+    ast_datarecord_048_get_flightlevel(&v, &r);
+    EXPECT_DOUBLE_EQ(v.value, 0x140 * 25.0);
+    r.items[0].length = 3;  // an I048/090 that does not decode
+    ast_datarecord_048_get_flightlevel(&v, &r);
+    EXPECT_EQ(v.valid, 1u);
+    EXPECT_DOUBLE_EQ(v.value, -16 * 25.0);
+
+    const Octets height_only = {0x01, 0x01, 0x08, 0x00, 0x64};
+    r = decode48(height_only);
+    ast_datarecord_048_get_flightlevel(&v, &r);
+    EXPECT_EQ(v.valid, 1u);
+    EXPECT_DOUBLE_EQ(v.value, 100 * 25.0);
+}
+
+TEST(Cat048Record, GenericAccessorsAnswerForCat048) {
+    AstDataRecordFuncs f;
+    ast_datarecord_get_func(&f, 48);
+    const AstDataRecordFuncs expected = {
+        ast_datarecord_048_get_sacsic,      ast_datarecord_048_get_timeofday, ast_datarecord_048_get_msgtype,
+        ast_datarecord_048_get_tracknum,    ast_datarecord_048_get_squawk,    ast_datarecord_048_get_callsign,
+        ast_datarecord_048_get_icaoaddr,    nullptr,                          ast_datarecord_048_get_flightlevel,
+        ast_datarecord_048_get_selaltitude, ast_datarecord_048_get_polarcoord, ast_datarecord_048_get_heading,
+        nullptr,                            nullptr,                          nullptr};
+    EXPECT_EQ(std::memcmp(&f, &expected, sizeof f), 0);
+
+    const Octets wire = track();
+    const AstDataRecord r = decode48(wire);
+    AstDataSourceIdentifier sacsic;
+    ast_datarecord_get_sacsic(&sacsic, &r);
+    EXPECT_EQ(sacsic.sac, 25u);
+    AstRecordCallsign callsign;
+    ast_datarecord_get_callsign(&callsign, &r);
+    EXPECT_STREQ(callsign.callsign, "DLH123");  // padding cut
+    AstRecordValue heading;
+    ast_datarecord_get_heading(&heading, &r);
+    EXPECT_DOUBLE_EQ(heading.value, kTrueTrack);
+    AstRecordWgs84 position;  // not a CAT048 fact
+    ast_datarecord_get_wgs84coord(&position, &r);
+    EXPECT_TRUE(all_zero(position));
 }

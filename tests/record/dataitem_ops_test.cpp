@@ -64,14 +64,14 @@ TEST(DataItem, ScanAndSize) {
 TEST(DataItem, DecodeEncodeWithoutFunctionsLog) {
     LogCapture log;
     const uint8_t o[] = {0x12, 0x34};
-    AstDataItem item = span(o, 2, 48050);
+    AstDataItem item = span(o, 2, 34090);
     AstDataItemValue v;
     uint8_t storage[64];
     ast_dataitem_decode(&v, storage, sizeof storage, &item);
     EXPECT_EQ(v.valid, 0);
-    EXPECT_EQ(v.id, 48050u);
+    EXPECT_EQ(v.id, 34090u);
     EXPECT_EQ(v.value, nullptr);
-    EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Decoding function not implemented for dataitem I048/050."));
+    EXPECT_TRUE(log.contains(AST_LOG_WARNING, "Decoding function not implemented for dataitem I034/090."));
 
     uint8_t buffer[8];
     uint32_t dummy = 1;
@@ -160,7 +160,8 @@ TEST(DataItem, TextViews) {
 }
 
 TEST(DataItem, CapabilitiesAndDummy) {
-    EXPECT_EQ(ast_dataitem_get_capabilities(48130), AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL);
+    EXPECT_EQ(ast_dataitem_get_capabilities(48130),
+              AST_DATAITEM_CAP_DECODE | AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL);
     EXPECT_EQ(ast_dataitem_get_capabilities(3010), 0u);
     char b[4] = "abc";
     ast_dataitem_get_detail_html_dummy(b, sizeof b, nullptr);

@@ -118,7 +118,7 @@ TEST(Subfield, SplitSummaryAndDetail) {
     html.resize(html.find('\0'));
     EXPECT_EQ(html.find("<h4>Primary Subfield</h4><table class=\"detail_table\"><tr><th>Subfield</th><th>ID</th>"), 0u);
     EXPECT_NE(html.find("<tr><td>1</td><td>SRL</td><td>SSR Plot Runlength</td><td>1</td><td>1</td>"
-                        "<td>NOT_IMPLEMENTED</td></tr>"),
+                        "<td>0.75 LSB=DEG</td></tr>"),
               std::string::npos);
     EXPECT_NE(html.find("<tr class=\"even_row\"><td>2</td><td>SRR</td>"), std::string::npos);
     EXPECT_NE(html.find("<h4>Subfield #3 - Amplitude of (M)SSR Reply</h4><table class=\"bin_table\">"), std::string::npos);

@@ -15,7 +15,7 @@ void expect_served(const AstDataRecord &r, const std::vector<Served> &cases) {
         EXPECT_STREQ(text, c.summary) << c.id;
         EXPECT_EQ(ast_dataitem_get_capabilities(c.id), c.caps) << c.id;
         if (c.storage == 0) continue;
-        alignas(std::max_align_t) unsigned char mem[256];
+        alignas(std::max_align_t) unsigned char mem[4096];
         AstDataItemValue v;
         ast_dataitem_decode(&v, mem, c.storage - 1, &item);
         EXPECT_EQ(v.value, nullptr) << c.id;
@@ -40,7 +40,7 @@ void expect_row(AstItemId id, const Octets &o, const char *text, uint32_t caps) 
     }
     EXPECT_EQ(ast_dataitem_get_capabilities(id) & (text ? ~0u : ~AST_DATAITEM_CAP_SUMMARY), caps) << id;
     if (!(caps & AST_DATAITEM_CAP_ENCODE)) return;
-    alignas(std::max_align_t) unsigned char storage[256];
+    alignas(std::max_align_t) unsigned char storage[4096];
     AstDataItemValue value;
     ast_dataitem_decode(&value, storage, sizeof storage, &item);
     uint8_t buffer[16];

@@ -1,0 +1,189 @@
+// CAT048 record accessors: the facts of a target report, each read from the
+// first item of the record that carries it. A result is all zeros (SAC/SIC:
+// all ones) when the record is invalid or lacks the item or the item does
+// not decode.
+#include <cstring>
+#include <type_traits>
+
+#include "kovrel/cat048.h"
+#include "kovrel/datarecord.h"
+#include "record/record_funcs.h"
+
+namespace {
+
+// Zeroes padding too: callers may compare results octet by octet.
+template <typename T>
+void clear(T *out) {
+    std::memset(static_cast<void *>(out), 0, sizeof *out);
+}
+
+const AstDataItem *first_item(const AstDataRecord *record, AstItemId id) {
+    if (!record || record->valid != 1) return nullptr;
+    const uint64_t count =
+        record->item_count < AST_DATARECORD_MAX_ITEMS ? record->item_count : AST_DATARECORD_MAX_ITEMS;
+    for (uint64_t i = 0; i < count; ++i)
+        if (record->items[i].id == id) return &record->items[i];
+    return nullptr;
+}
+
+// Decodes the first item id of the record into *out with a common item
+// decoder (by pointer or by value); false, *out zero, when there is none.
+template <typename T, typename Decode>
+bool decode_first(T *out, const AstDataRecord *record, AstItemId id, Decode decode) {
+    clear(out);
+    const AstDataItem *item = first_item(record, id);
+    if (!item) return false;
+    if constexpr (std::is_invocable_r_v<T, Decode, const AstDataItem *>)
+        *out = decode(item);
+    else
+        decode(out, item);
+    if (out->valid == 1) return true;
+    clear(out);
+    return false;
+}
+
+// The same through the item's structured decode (the category's own items).
+template <typename T>
+bool decode_first(T *out, const AstDataRecord *record, AstItemId id) {
+    clear(out);
+    const AstDataItem *item = first_item(record, id);
+    if (!item) return false;
+    AstDataItemValue v;
+    ast_dataitem_decode(&v, out, sizeof *out, item);
+    if (v.valid == 1 && out->valid == 1) return true;
+    clear(out);
+    return false;
+}
+
+// The registers of the first I048/250 of the record.
+bool first_modes_mb(AstModesMb *mb, const AstDataRecord *record) {
+    return decode_first(mb, record, 48250, ast_dataitem_modes_mb_decode);
+}
+
+void set_value(AstRecordValue *out, bool ok, double value) {
+    clear(out);
+    if (!ok) return;
+    out->valid = 1;
+    out->value = value;
+}
+
+}  // namespace
+
+extern "C" {
+
+KOVREL_API void ast_datarecord_048_get_sacsic(AstDataSourceIdentifier *out, const AstDataRecord *record) {
+    if (!out) return;
+    if (decode_first(out, record, 48010, ast_dataitem_data_source_identifier_decode)) return;
+    out->sac = 0xFFFFFFFFu;
+    out->sic = 0xFFFFFFFFu;
+}
+
+KOVREL_API void ast_datarecord_048_get_timeofday(AstTimeOfDay *out, const AstDataRecord *record) {
+    if (out) decode_first(out, record, 48140, ast_dataitem_time_of_day_decode);
+}
+
+KOVREL_API void ast_datarecord_048_get_msgtype(AstRecordMsgType *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    if (!record || record->valid != 1) return;
+    // 4 "Track" when the report carries a track number, else 3 "Plot".
+    *out = AstRecordMsgType{1, first_item(record, 48161) ? 4u : 3u};
+}
+
+KOVREL_API void ast_datarecord_048_get_tracknum(AstTrackNumber *out, const AstDataRecord *record) {
+    if (out) decode_first(out, record, 48161, ast_dataitem_track_number_decode);
+}
+
+KOVREL_API void ast_datarecord_048_get_squawk(AstMode3aCode *out, const AstDataRecord *record) {
+    if (out) decode_first(out, record, 48070, ast_dataitem_mode_3a_code_decode);
+}
+
+KOVREL_API void ast_datarecord_048_get_callsign(AstRecordCallsign *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    AstAircraftId id;
+    if (!decode_first(&id, record, 48240, ast_dataitem_aircraft_id_decode)) return;
+    out->valid = 1;
+    std::memcpy(out->callsign, id.chars, sizeof out->callsign - 1);
+}
+
+KOVREL_API void ast_datarecord_048_get_icaoaddr(AstTargetAddress *out, const AstDataRecord *record) {
+    if (out) decode_first(out, record, 48220, ast_dataitem_target_address_decode);
+}
+
+KOVREL_API void ast_datarecord_048_get_flightlevel(AstRecordValue *out, const AstDataRecord *record) {
+    if (!out) return;
+    AstModeCCode mode_c;
+    if (decode_first(&mode_c, record, 48090, ast_dataitem_mode_c_code_decode)) {
+        set_value(out, true, mode_c.flight_level * 25.0);  // 1/4 FL = 25 ft
+        return;
+    }
+    AstItem048_110 height;
+    const bool ok = decode_first(&height, record, 48110);
+    set_value(out, ok, ok ? static_cast<double>(height.height) : 0.0);
+}
+
+KOVREL_API void ast_datarecord_048_get_selaltitude(AstRecordValue *out, const AstDataRecord *record) {
+    if (!out) return;
+    set_value(out, false, 0.0);
+    AstModesMb mb;
+    if (!first_modes_mb(&mb, record)) return;
+    for (uint32_t i = 0; i < mb.rep; ++i) {
+        if (mb.bds[i].id != 0x40) continue;
+        const AstBds40 r = ast_bds_40_decode(&mb.bds[i]);
+        if (r.valid == 1 && r.mcp_alt_status == 1) return set_value(out, true, r.mcp_alt);
+    }
+}
+
+KOVREL_API void ast_datarecord_048_get_heading(AstRecordValue *out, const AstDataRecord *record) {
+    if (!out) return;
+    set_value(out, false, 0.0);
+    AstModesMb mb;
+    if (!first_modes_mb(&mb, record)) return;
+    // The true track angle of BDS 5,0 wins; the magnetic heading of BDS 6,0
+    // stands in when no 5,0 register gives one.
+    for (uint32_t i = 0; i < mb.rep; ++i) {
+        if (mb.bds[i].id != 0x50) continue;
+        const AstBds50 r = ast_bds_50_decode(&mb.bds[i]);
+        if (r.valid == 1 && r.true_track_status == 1) return set_value(out, true, r.true_track);
+    }
+    for (uint32_t i = 0; i < mb.rep; ++i) {
+        if (mb.bds[i].id != 0x60) continue;
+        const AstBds60 r = ast_bds_60_decode(&mb.bds[i]);
+        if (r.valid == 1 && r.magnetic_heading_status == 1) return set_value(out, true, r.magnetic_heading);
+    }
+}
+
+KOVREL_API void ast_datarecord_048_get_polarcoord(AstRecordPolar *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    AstItem048_040 position;
+    if (!decode_first(&position, record, 48040)) return;
+    out->valid = 1;
+    out->rho = position.rho;
+    out->theta = position.theta;
+}
+
+}  // extern "C"
+
+namespace kovrel {
+
+constinit const AstDataRecordFuncs kRecordFuncs048 = {
+    ast_datarecord_048_get_sacsic,
+    ast_datarecord_048_get_timeofday,
+    ast_datarecord_048_get_msgtype,
+    ast_datarecord_048_get_tracknum,
+    ast_datarecord_048_get_squawk,
+    ast_datarecord_048_get_callsign,
+    ast_datarecord_048_get_icaoaddr,
+    nullptr,  // no WGS-84 position in a monoradar report
+    ast_datarecord_048_get_flightlevel,
+    ast_datarecord_048_get_selaltitude,
+    ast_datarecord_048_get_polarcoord,
+    ast_datarecord_048_get_heading,
+    nullptr,  // speed
+    nullptr,  // Cartesian velocity
+    nullptr,  // vertical rate
+};
+
+}  // namespace kovrel

@@ -1,0 +1,99 @@
+// I048/170 Track Status and I048/210 Track Quality: how the radar's local
+// tracker rates a track.
+#include "items/item_ex.h"
+#include "items/item_support.h"
+#include "kovrel/cat048.h"
+
+namespace {
+
+using kovrel::TextWriter;
+namespace items = kovrel::items;
+
+constexpr AstItemId kStatusId = 48170;
+constexpr AstItemId kQualityId = 48210;
+constexpr uint64_t kQualityLength = 4;
+
+// Sensors maintaining the track (RAD) and climbing/descending mode (CDM).
+constexpr const char *kRadText[4] = {"CMB", "PSR", "SSR", "INVALID"};
+constexpr const char *kCdmText[4] = {"MAINTAINING", "CLIMBING", "DESCENDING", "UNKNOWN"};
+
+// Sigma X, sigma Y (NM), sigma V (kt: 2^-14 NM/s) and sigma H (degrees: 360/2^12).
+constexpr double kSigmaLsb[4] = {1.0 / 128.0, 1.0 / 128.0, 0.2197265625, 0.087890625};
+
+AstItem048Scaled sigma(const uint8_t *p, int i) { return AstItem048Scaled{p[i], kSigmaLsb[i], p[i] * kSigmaLsb[i]}; }
+
+}  // namespace
+
+extern "C" {
+
+KOVREL_API void ast_dataitem_048_170_init(AstItem048_170 *out) {
+    if (!out) return;
+    *out = AstItem048_170{};
+    out->rad = 3;  // invalid
+    out->cdm = 3;  // unknown
+}
+
+KOVREL_API void ast_dataitem_048_170_decode(AstItem048_170 *out, const AstDataItem *item) {
+    ast_dataitem_048_170_init(out);
+    if (!out || !items::span_at_least(item, 1) || item->id != kStatusId) return;
+    // Only the first octet is read; an extension octet is accepted and ignored.
+    const uint8_t s = item->data[0];
+    out->cnf = s >> 7;
+    out->rad = (s >> 5) & 3u;
+    out->dou = (s >> 4) & 1u;
+    out->mah = (s >> 3) & 1u;
+    out->cdm = (s >> 1) & 3u;
+    out->valid = 1;
+}
+
+KOVREL_API void ast_dataitem_048_170_get_summary(char *buffer, size_t size, const AstDataItem *item) {
+    items::describe(buffer, size, item, ast_dataitem_048_170_decode,
+                    [](TextWriter &w, const auto &s) { w.appendf("TYPE:%s", kRadText[s.rad & 3u]); });
+}
+
+KOVREL_API void ast_dataitem_048_170_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
+    items::describe(buffer, size, item, ast_dataitem_048_170_decode, [](TextWriter &w, const auto &s) {
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        t.rowf("Bit[0]", "TENTATIVE_TRACK", "%d", s.cnf);
+        t.row("Bit[1-2]", "SENSOR_TYPE", kRadText[s.rad & 3u]);
+        t.rowf("Bit[3]", "LOW_CONFIDENCE", "%d", s.dou);
+        t.rowf("Bit[4]", "HORIZONTAL_MANOEUVRE", "%d", s.mah);
+        t.row("Bit[5-6]", "CLIMBING_DESCENDING_MODE", kCdmText[s.cdm & 3u]);
+        t.end();
+    });
+}
+
+KOVREL_API void ast_dataitem_048_210_init(AstItem048_210 *out) {
+    if (out) *out = AstItem048_210{};
+}
+
+KOVREL_API void ast_dataitem_048_210_decode(AstItem048_210 *out, const AstDataItem *item) {
+    ast_dataitem_048_210_init(out);
+    if (!out || !items::span_ok(item, kQualityLength) || item->id != kQualityId) return;
+    const uint8_t *p = item->data;
+    *out = AstItem048_210{1, sigma(p, 0), sigma(p, 1), sigma(p, 2), sigma(p, 3)};
+}
+
+KOVREL_API void ast_dataitem_048_210_get_summary(char *buffer, size_t size, const AstDataItem *item) {
+    items::describe(buffer, size, item, ast_dataitem_048_210_decode, [](TextWriter &w, const auto &q) {
+        w.appendf("X:%.2f Y:%.2f V:%.2f H:%.2f", q.sigma_x.value, q.sigma_y.value, q.sigma_v.value, q.sigma_h.value);
+    });
+}
+
+KOVREL_API void ast_dataitem_048_210_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
+    items::describe(buffer, size, item, ast_dataitem_048_210_decode, [](TextWriter &w, const auto &q) {
+        items::DetailTable t(w);
+        t.header("Bit", "Item", "Value");
+        t.rowf("Bit[0-7]", "SIGMA_X LSB=NM", "%.4f", q.sigma_x.value);
+        t.rowf("Bit[8-15]", "SIGMA_Y LSB=NM", "%.4f", q.sigma_y.value);
+        t.rowf("Bit[16-23]", "SIGMA_V LSB=KNOT", "%.4f", q.sigma_v.value);
+        t.rowf("Bit[24-31]", "SIGMA_H LSB=DEG", "%.4f", q.sigma_h.value);
+        t.end();
+    });
+}
+
+}  // extern "C"
+
+KOVREL_DECODE_EX(048_170, AstItem048_170, ast_dataitem_048_170_decode)
+KOVREL_DECODE_EX(048_210, AstItem048_210, ast_dataitem_048_210_decode)
