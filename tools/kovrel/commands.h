@@ -31,4 +31,16 @@ struct DecodeOptions {
 // failed, 2 for bad options (also: html for several inputs without -o).
 int run_decode(const DecodeOptions &options);
 
+// Options of `kovrel encode [FILE] [-o OUT]`.
+struct EncodeOptions {
+    std::string file = "-";     // JSON Lines; "-": standard input
+    std::string output;         // data blocks go here instead of stdout
+    unsigned block_records = 64;  // most records per block, 1 to 64
+};
+
+// `kovrel encode`: JSON Lines (see encode_json.h) to data blocks (see
+// encoder.h). Exit status 0 when at least one record was written, 1 when
+// none was (or writing failed), 2 for bad options.
+int run_encode(const EncodeOptions &options);
+
 }  // namespace kovrel_tool

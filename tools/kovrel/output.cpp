@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "decode.h"
+#include "fields.h"
 
 namespace kovrel_tool {
 namespace {
@@ -37,7 +38,8 @@ std::string record_line(const RecordView &v) {
                   static_cast<unsigned long long>(v.block), format_location(v.where).c_str(), r.category,
                   r.uap.get_dataitem ? profile_label(r.uap, r.category) : "-", v.number, length.c_str(),
                   static_cast<unsigned long long>(r.item_count), r.valid ? "valid" : "INVALID");
-    return buf;
+    const std::string tags = field_tags(record_fields(r));
+    return tags.empty() ? std::string(buf) : buf + ("  " + tags);
 }
 
 std::string item_line(const AstDataItem &item) {
@@ -75,6 +77,7 @@ nlohmann::json record_json(const RecordView &v) {
     j["item_count"] = r.item_count;
     j["valid"] = r.valid != 0;
     j["block_valid"] = v.block_valid;
+    j["fields"] = record_fields(r);
     nlohmann::json items = nlohmann::json::array();
     for (uint64_t i = 0; i < r.item_count && i < AST_DATARECORD_MAX_ITEMS; ++i) items.push_back(item_json(r.items[i]));
     j["items"] = std::move(items);

@@ -6,16 +6,18 @@
 // block number (from 1, per input), block location (see input.h), category,
 // profile, record number in the block (from 1), record length, item count,
 // and "valid" or "INVALID" (the record a bad block stopped at; its length
-// is "-", null in JSON, and its items are those read before the failure).
+// is "-", null in JSON, and its items are those read before the failure),
+// then the record's tags when it has any (see field_tags in fields.h):
+//   ... items 14 valid  sac 25 sic 1  tod 12:34:56.789  Target Report  callsign DLH123
 // Item line (with --items):
 //     I048/010  Data Source Identifier                  len 2   19 01  | SAC:025 SIC:001
 // identifier, name, length, octets in hexadecimal, summary.
 //
 // JSON object (one per line): input, block, offset, packet and time (for
-// captures), cat, uap, record, length, item_count, valid, block_valid and
-// items: [{id, name, len, hex, summary}, ...]. offset is the block's octet
-// offset: in the input for raw and hex inputs, in the UDP payload of the
-// packet for captures.
+// captures), cat, uap, record, length, item_count, valid, block_valid,
+// fields (see fields.h) and items: [{id, name, len, hex, summary}, ...].
+// offset is the block's octet offset: in the input for raw and hex inputs,
+// in the UDP payload of the packet for captures.
 #pragma once
 
 #include <cstddef>
