@@ -39,6 +39,31 @@ bool all_zero(const T &v) {
     return true;
 }
 
+// What an accessor answers for r, written over garbage.
+template <typename T>
+T get(void (*accessor)(T *, const AstDataRecord *), const AstDataRecord &r) {
+    T out;
+    std::memset(&out, 0x5A, sizeof out);
+    accessor(&out, &r);
+    return out;
+}
+
+// True when the accessor writes all zero octets (padding too) over garbage;
+// checked in place, as a copy need not keep the padding.
+template <typename T>
+bool nothing(void (*accessor)(T *, const AstDataRecord *), const AstDataRecord &r) {
+    T out;
+    std::memset(&out, 0x5A, sizeof out);
+    accessor(&out, &r);
+    return all_zero(out);
+}
+
+// Disassembles r into d filled with garbage first.
+void disassemble(AstRecord048 &d, const AstDataRecord *r) {
+    std::memset(&d, 0x5A, sizeof d);
+    ast_datarecord_048_disassemble(&d, r);
+}
+
 std::vector<AstItemId> ids_of(const AstDataRecord &r) {
     std::vector<AstItemId> ids;
     for (uint64_t i = 0; i < r.item_count; ++i) ids.push_back(r.items[i].id);
@@ -178,17 +203,13 @@ TEST(Cat048, CommonItemsOfATrackReport) {
     AstModesMb mb;
     AstDataItemValue v;
     ast_dataitem_decode(&v, &mb, sizeof mb, &r.items[6]);
-    EXPECT_EQ(mb.rep, 2u);
-    EXPECT_EQ(mb.bds[1].id, 0x60u);
-    EXPECT_EQ(mb.bds[1].data, r.items[6].data + 9);
+    EXPECT_TRUE(mb.rep == 2 && mb.bds[1].id == 0x60 && mb.bds[1].data == r.items[6].data + 9);
     AstTrackNumber number;
     ast_dataitem_decode(&v, &number, sizeof number, &r.items[7]);
-    EXPECT_EQ(number.number, 0x123u);
-    EXPECT_EQ(number.twelve_bit, 1);
+    EXPECT_TRUE(number.number == 0x123 && number.twelve_bit == 1);
     AstSpecialPurposeField spf;
     ast_dataitem_decode(&v, &spf, sizeof spf, &r.items[11]);
-    EXPECT_EQ(spf.length, 2u);
-    EXPECT_EQ(spf.data, r.items[11].data + 1);
+    EXPECT_TRUE(spf.length == 2 && spf.data == r.items[11].data + 1);
 }
 
 TEST(Cat048Record, DisassemblesPlotsAndTracksIntoTheirMembers) {
@@ -197,38 +218,25 @@ TEST(Cat048Record, DisassemblesPlotsAndTracksIntoTheirMembers) {
     ASSERT_EQ(t.valid, 1);
     ASSERT_EQ(p.valid, 1);
     AstRecord048 d;
-    std::memset(&d, 0x5A, sizeof d);  // disassemble starts from zero
-    ast_datarecord_048_disassemble(&d, &t);
+    disassemble(d, &t);
     const uint32_t filled[] = {d.valid,       d.i010.valid, d.i020.valid, d.i030.valid, d.i040.valid, d.i042.valid,
                                d.i050.valid,  d.i070.valid, d.i080.valid, d.i090.valid, d.i100.valid, d.i140.valid,
                                d.i161.valid,  d.i170.valid, d.i200.valid, d.i210.valid, d.i220.valid, d.i230.valid,
                                d.i240.valid,  d.i250.valid, d.i260.valid};
     for (uint32_t valid : filled) EXPECT_EQ(valid, 1u);
-    // Each member holds its own item.
-    EXPECT_EQ(d.i010.sic, 1u);
-    EXPECT_EQ(d.i020.tst, 1);
+    // Each member holds its own item (I048/050 after a one-octet valid flag).
+    EXPECT_TRUE(d.i010.sic == 1 && d.i020.tst == 1 && d.i042.y == -256 && d.i161.number == 0x123);
+    EXPECT_TRUE(d.i030.codes[1] == 0x50 >> 1 && d.i250.bds[1].id == 0x50 && d.i050.v == 1 && d.i050.code == 0443);
     EXPECT_DOUBLE_EQ(d.i040.rho, 0x2A80 / 256.0);
-    EXPECT_EQ(d.i042.y, -256);
-    EXPECT_EQ(d.i161.number, 0x123u);
-    EXPECT_EQ(d.i030.codes[1], 0x50u >> 1);
-    EXPECT_EQ(d.i250.bds[1].id, 0x50u);
-    EXPECT_EQ(d.i050.v, 1);  // after a one-octet valid flag
-    EXPECT_EQ(d.i050.code, 0443u);
-    EXPECT_TRUE(all_zero(d.i110));
-    EXPECT_TRUE(all_zero(d.i130));
+    EXPECT_TRUE(all_zero(d.i110) && all_zero(d.i130));
 
     // The plot's I048/120 has no member: logged, skipped, the rest decoded.
     LogCapture log;
-    ast_datarecord_048_disassemble(&d, &p);
+    disassemble(d, &p);
     EXPECT_TRUE(log.contains(AST_LOG_DEBUG, "Failed to disassemble dataitem I048/120."));
     EXPECT_EQ(log.size(), 1u);
-    EXPECT_EQ(d.valid, 1u);
-    EXPECT_EQ(d.i130.srr, 0x08u);
-    EXPECT_EQ(d.i250.bds[0].id, 0x40u);
-    EXPECT_TRUE(all_zero(d.i161));
-    EXPECT_TRUE(all_zero(d.i170));
-    EXPECT_TRUE(all_zero(d.i050));
-    EXPECT_TRUE(all_zero(d.i260));
+    EXPECT_TRUE(d.valid == 1 && d.i130.srr == 0x08 && d.i250.bds[0].id == 0x40);
+    EXPECT_TRUE(all_zero(d.i161) && all_zero(d.i170) && all_zero(d.i050) && all_zero(d.i260));
 }
 
 TEST(Cat048Record, RefusesRecordsItCannotDisassemble) {
@@ -236,29 +244,24 @@ TEST(Cat048Record, RefusesRecordsItCannotDisassemble) {
     Octets truncated = encodable();
     truncated.resize(12);  // the FSPEC announces I048/040 that is not there
     AstDataRecord r = decode48(truncated);
-    ASSERT_EQ(r.valid, 0);
-    ASSERT_GT(r.item_count, 0u);
-    std::memset(&d, 0x5A, sizeof d);
-    ast_datarecord_048_disassemble(&d, &r);
+    ASSERT_TRUE(r.valid == 0 && r.item_count > 0);
+    disassemble(d, &r);
     EXPECT_TRUE(all_zero(d));
-
     const Octets marker = {0xE0, 0x19, 0x0D, 0x01, 0x35, 0x6B, 0x01};  // a CAT034 record
     ast_datarecord_decode(&r, marker.data(), marker.size(), 34, &AST_UAP_STANDARD);
     ASSERT_EQ(r.valid, 1);
-    std::memset(&d, 0x5A, sizeof d);
-    ast_datarecord_048_disassemble(&d, &r);
+    disassemble(d, &r);
+    EXPECT_TRUE(all_zero(d));
+    disassemble(d, nullptr);
     EXPECT_TRUE(all_zero(d));
 
     // A valid record without items: valid and nothing else.
     const Octets wire = encodable();
     r = decode48(wire);
     r.item_count = 0;
-    std::memset(&d, 0x5A, sizeof d);
-    ast_datarecord_048_disassemble(&d, &r);
+    disassemble(d, &r);
     EXPECT_EQ(d.valid, 1u);
     d.valid = 0;
-    EXPECT_TRUE(all_zero(d));
-    ast_datarecord_048_disassemble(&d, nullptr);
     EXPECT_TRUE(all_zero(d));
 }
 
@@ -321,41 +324,20 @@ TEST(Cat048Record, Accessors) {
     const Octets track_wire = track(), plot_wire = plot();
     const AstDataRecord t = decode48(track_wire);
     AstDataRecord p = decode48(plot_wire);
-    AstDataSourceIdentifier sacsic;
-    ast_datarecord_048_get_sacsic(&sacsic, &t);
-    EXPECT_EQ(sacsic.sac, 25u);
-    EXPECT_EQ(sacsic.sic, 1u);
-    AstTimeOfDay tod;
-    ast_datarecord_048_get_timeofday(&tod, &t);
-    EXPECT_EQ(tod.raw, 0x587865u);
-    AstRecordMsgType type;
-    ast_datarecord_048_get_msgtype(&type, &t);
-    EXPECT_STREQ(ast_msgtype_to_str(type.value), "Track");
-    ast_datarecord_048_get_msgtype(&type, &p);
-    EXPECT_STREQ(ast_msgtype_to_str(type.value), "Plot");
-    AstTrackNumber number;
-    ast_datarecord_048_get_tracknum(&number, &t);
-    EXPECT_EQ(number.number, 0x123u);
-    ast_datarecord_048_get_tracknum(&number, &p);
-    EXPECT_TRUE(all_zero(number));
-    AstMode3aCode squawk;
-    ast_datarecord_048_get_squawk(&squawk, &t);
-    EXPECT_EQ(squawk.code, 05077u);
-    AstRecordCallsign callsign;
-    ast_datarecord_048_get_callsign(&callsign, &t);
-    EXPECT_STREQ(callsign.callsign, "DLH123  ");
-    AstTargetAddress address;
-    ast_datarecord_048_get_icaoaddr(&address, &t);
-    EXPECT_EQ(address.address, 0x3C654Au);
-    AstRecordValue v;
-    ast_datarecord_048_get_flightlevel(&v, &t);
-    EXPECT_DOUBLE_EQ(v.value, 0x578 * 25.0);
-    ast_datarecord_048_get_selaltitude(&v, &p);
-    EXPECT_DOUBLE_EQ(v.value, kSelected);
-    ast_datarecord_048_get_selaltitude(&v, &t);  // no BDS 4,0
-    EXPECT_TRUE(all_zero(v));
-    AstRecordPolar polar;
-    ast_datarecord_048_get_polarcoord(&polar, &t);
+    const AstDataSourceIdentifier sacsic = get(ast_datarecord_048_get_sacsic, t);
+    EXPECT_TRUE(sacsic.sac == 25 && sacsic.sic == 1);
+    EXPECT_EQ(get(ast_datarecord_048_get_timeofday, t).raw, 0x587865u);
+    EXPECT_STREQ(ast_msgtype_to_str(get(ast_datarecord_048_get_msgtype, t).value), "Track");
+    EXPECT_STREQ(ast_msgtype_to_str(get(ast_datarecord_048_get_msgtype, p).value), "Plot");
+    EXPECT_EQ(get(ast_datarecord_048_get_tracknum, t).number, 0x123u);
+    EXPECT_TRUE(nothing(ast_datarecord_048_get_tracknum, p));
+    EXPECT_EQ(get(ast_datarecord_048_get_squawk, t).code, 05077u);
+    EXPECT_STREQ(get(ast_datarecord_048_get_callsign, t).callsign, "DLH123  ");
+    EXPECT_EQ(get(ast_datarecord_048_get_icaoaddr, t).address, 0x3C654Au);
+    EXPECT_DOUBLE_EQ(get(ast_datarecord_048_get_flightlevel, t).value, 0x578 * 25.0);
+    EXPECT_DOUBLE_EQ(get(ast_datarecord_048_get_selaltitude, p).value, kSelected);
+    EXPECT_TRUE(nothing(ast_datarecord_048_get_selaltitude, t));  // no BDS 4,0
+    const AstRecordPolar polar = get(ast_datarecord_048_get_polarcoord, t);
     EXPECT_DOUBLE_EQ(polar.rho, 0x2A80 / 256.0);
     EXPECT_DOUBLE_EQ(polar.theta, 0x4000 * 360.0 / 65536);
 
@@ -366,27 +348,17 @@ TEST(Cat048Record, Accessors) {
         const uint32_t found = round == 0;
         if (round == 1) p.item_count = 0;
         if (round == 2) p.valid = 0;
-        ast_datarecord_048_get_sacsic(&sacsic, &p);
-        EXPECT_EQ(sacsic.valid, found);
-        EXPECT_EQ(sacsic.sac, found ? 25u : 0xFFFFFFFFu);
-        EXPECT_EQ(sacsic.sic, found ? 13u : 0xFFFFFFFFu);
-        ast_datarecord_048_get_timeofday(&tod, &p);
-        ast_datarecord_048_get_squawk(&squawk, &p);
-        ast_datarecord_048_get_callsign(&callsign, &p);
-        ast_datarecord_048_get_icaoaddr(&address, &p);
-        ast_datarecord_048_get_polarcoord(&polar, &p);
-        EXPECT_EQ(found, tod.valid && squawk.valid && callsign.valid && address.valid && polar.valid);
-        EXPECT_EQ(!found, all_zero(tod) && all_zero(squawk) && all_zero(callsign) && all_zero(address) &&
-                              all_zero(polar));
-        for (auto get : {ast_datarecord_048_get_flightlevel, ast_datarecord_048_get_selaltitude,
-                         ast_datarecord_048_get_heading}) {
-            get(&v, &p);
-            EXPECT_EQ(v.valid, found);
-            EXPECT_EQ(!found, all_zero(v));
-        }
-        ast_datarecord_048_get_msgtype(&type, &p);
-        EXPECT_EQ(type.valid, round < 2 ? 1u : 0u);
-        EXPECT_EQ(type.value, round < 2 ? 3u : 0u);
+        const AstDataSourceIdentifier ss = get(ast_datarecord_048_get_sacsic, p);
+        EXPECT_TRUE(ss.valid == found && ss.sac == (found ? 25 : ~0u) && ss.sic == (found ? 13 : ~0u)) << round;
+        const auto answers = [&](auto accessor) {
+            EXPECT_TRUE(get(accessor, p).valid == found && nothing(accessor, p) == !found) << round;
+        };
+        answers(ast_datarecord_048_get_timeofday), answers(ast_datarecord_048_get_squawk);
+        answers(ast_datarecord_048_get_callsign), answers(ast_datarecord_048_get_icaoaddr);
+        answers(ast_datarecord_048_get_polarcoord), answers(ast_datarecord_048_get_flightlevel);
+        answers(ast_datarecord_048_get_selaltitude), answers(ast_datarecord_048_get_heading);
+        const AstRecordMsgType type = get(ast_datarecord_048_get_msgtype, p);
+        EXPECT_TRUE(type.valid == (round < 2) && type.value == (round < 2 ? 3u : 0u)) << round;
     }
 }
 
@@ -404,8 +376,7 @@ TEST(Cat048Record, HeadingPrefersTheTrueTrackOfBds50) {
         const Octets wire = cat({{0x01, 0x20}, mb(c.registers)});  // FRN 10 only: I048/250
         const AstDataRecord r = decode48(wire);
         ASSERT_EQ(r.valid, 1);
-        AstRecordValue heading;
-        ast_datarecord_048_get_heading(&heading, &r);
+        const AstRecordValue heading = get(ast_datarecord_048_get_heading, r);
         EXPECT_EQ(heading.valid, c.heading != 0.0 ? 1u : 0u);
         EXPECT_DOUBLE_EQ(heading.value, c.heading);
     }
@@ -417,17 +388,14 @@ TEST(Cat048Record, FlightLevelFallsBackToTheHeightOf110) {
     const Octets both = {0x05, 0x01, 0x08, 0x01, 0x40, 0xFF, 0xF0};
     AstDataRecord r = decode48(both);
     ASSERT_EQ(r.valid, 1);
-    AstRecordValue v;
-    ast_datarecord_048_get_flightlevel(&v, &r);
-    EXPECT_DOUBLE_EQ(v.value, 0x140 * 25.0);
+    EXPECT_DOUBLE_EQ(get(ast_datarecord_048_get_flightlevel, r).value, 0x140 * 25.0);
     r.items[0].length = 3;  // an I048/090 that does not decode
-    ast_datarecord_048_get_flightlevel(&v, &r);
+    AstRecordValue v = get(ast_datarecord_048_get_flightlevel, r);
     EXPECT_EQ(v.valid, 1u);
     EXPECT_DOUBLE_EQ(v.value, -16 * 25.0);
 
     const Octets height_only = {0x01, 0x01, 0x08, 0x00, 0x64};
-    r = decode48(height_only);
-    ast_datarecord_048_get_flightlevel(&v, &r);
+    v = get(ast_datarecord_048_get_flightlevel, decode48(height_only));
     EXPECT_EQ(v.valid, 1u);
     EXPECT_DOUBLE_EQ(v.value, 100 * 25.0);
 }
@@ -445,16 +413,8 @@ TEST(Cat048Record, GenericAccessorsAnswerForCat048) {
 
     const Octets wire = track();
     const AstDataRecord r = decode48(wire);
-    AstDataSourceIdentifier sacsic;
-    ast_datarecord_get_sacsic(&sacsic, &r);
-    EXPECT_EQ(sacsic.sac, 25u);
-    AstRecordCallsign callsign;
-    ast_datarecord_get_callsign(&callsign, &r);
-    EXPECT_STREQ(callsign.callsign, "DLH123");  // padding cut
-    AstRecordValue heading;
-    ast_datarecord_get_heading(&heading, &r);
-    EXPECT_DOUBLE_EQ(heading.value, kTrueTrack);
-    AstRecordWgs84 position;  // not a CAT048 fact
-    ast_datarecord_get_wgs84coord(&position, &r);
-    EXPECT_TRUE(all_zero(position));
+    EXPECT_EQ(get(ast_datarecord_get_sacsic, r).sac, 25u);
+    EXPECT_STREQ(get(ast_datarecord_get_callsign, r).callsign, "DLH123");  // padding cut
+    EXPECT_DOUBLE_EQ(get(ast_datarecord_get_heading, r).value, kTrueTrack);
+    EXPECT_TRUE(nothing(ast_datarecord_get_wgs84coord, r));  // not a CAT048 fact
 }

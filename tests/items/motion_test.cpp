@@ -40,11 +40,30 @@ LatLon wgs84(void (*fn)(T *, const AstDataItem *), const Octets &o, AstItemId id
     return {p.latitude, p.longitude};
 }
 
+// Text written at a buffer of `size` octets followed by canary octets; fails
+// when a canary changed or the text is not terminated inside the buffer.
+std::string text_at(TextFn fn, const AstDataItem &item, size_t size) {
+    std::vector<char> mem(size + 16, '#');
+    fn(mem.data(), size, &item);
+    EXPECT_EQ(std::string(mem.begin() + size, mem.end()), std::string(16, '#')) << "wrote past " << size;
+    const size_t len = strnlen(mem.data(), size);
+    EXPECT_TRUE(size == 0 || len < size) << "not terminated, buffer size " << size;
+    return std::string(mem.data(), len < size ? len : 0);
+}
+
+// The full text, after checking that the sizes 0, 1 and one short of it cut it.
 std::string text(TextFn fn, const AstDataItem &item) {
-    char buf[4096];
-    std::memset(buf, 'x', sizeof buf);
-    fn(buf, sizeof buf, &item);
-    return buf;
+    const std::string full = text_at(fn, item, 4096);
+    EXPECT_EQ(text_at(fn, item, 0) + text_at(fn, item, 1), "");
+    if (!full.empty()) {
+        EXPECT_EQ(text_at(fn, item, full.size()), full.substr(0, full.size() - 1));
+    }
+    return full;
+}
+
+// Fails for every piece that is not part of s.
+void expect_in(const std::string &s, std::initializer_list<std::string> pieces) {
+    for (const std::string &p : pieces) EXPECT_NE(s.find(p), std::string::npos) << p << " not in " << s;
 }
 
 // Expected detail table (flavor 0): header cells, then data rows alternating
@@ -86,12 +105,11 @@ struct OptionGuard {
 TEST(MotionWgs84, DecodeLsbFollowsItem) {
     const auto dec = ast_dataitem_position_wgs84_decode;
     const Octets o = {0x20, 0x00, 0x00, 0x00, 0xC0, 0x00, 0x00, 0x00};
-    EXPECT_EQ(wgs84(dec, o, 21131), LatLon(90.0, -180.0));
-    EXPECT_EQ(wgs84(dec, o, 19600), LatLon(90.0, -180.0));
-    EXPECT_EQ(wgs84(dec, o, 10041), LatLon(45.0, -90.0));
-    EXPECT_EQ(wgs84(dec, o, 16400), LatLon(45.0, -90.0));
     // No range check: the default LSB gives 2880 degrees.
-    EXPECT_EQ(wgs84(dec, o, 48999), LatLon(2880.0, -5760.0));
+    for (const auto &[id, ll] : {std::pair{21131, LatLon(90.0, -180.0)}, {19600, LatLon(90.0, -180.0)},
+                                 {10041, LatLon(45.0, -90.0)}, {16400, LatLon(45.0, -90.0)},
+                                 {48999, LatLon(2880.0, -5760.0)}})
+        EXPECT_EQ(wgs84(dec, o, id), ll) << id;
     const AstPositionWgs84 p = decode(dec, o, 21131);
     EXPECT_TRUE(p.lat_raw == 0x20000000 && p.lat_lsb == 180.0 / (1 << 30) && p.lon_lsb == p.lat_lsb);
     EXPECT_EQ(decode(dec, o, 62105).lon_lsb, kLsb25);
@@ -173,17 +191,13 @@ TEST(MotionWgs84, SummaryAndDetailTexts) {
 
     const Octets o6 = {0x20, 0x00, 0x00, 0xF0, 0x00, 0x00};  // 45, -22.5
     EXPECT_EQ(text(ast_dataitem_position_wgs84_low_get_summary, span(o6)), "WGS84:450000N0223000W");
-    std::vector<std::vector<std::string>> rows = {{"Octet", "Item", "Value"}};
-    for (const char *v : {"450000N0223000W", "450000.00N0223000.00W", "450000.000000N0223000.000000W",
-                          "045.000000, -022.500000", "2097152, -1048576"}) {
-        rows.push_back({"Octet[1-6]", w, v});
-    }
-    char a[1024];
-    for (int32_t service = 1; service <= 4; ++service) {
-        ast_html_gen_location_map_link(a, sizeof a, service, 45.0, -22.5);
-        rows.push_back({"Octet[1-6]", w, a});
-    }
-    EXPECT_EQ(text(ast_dataitem_position_wgs84_low_get_detail_html, span(o6)), table(rows));
+    const std::string low = text(ast_dataitem_position_wgs84_low_get_detail_html, span(o6));
+    const std::string cell = "<td>Octet[1-6]</td><td>WGS84_COORDINATES</td><td>";
+    expect_in(low, {"<tr><th>Octet</th><th>Item</th><th>Value</th></tr><tr>" + cell + "450000N0223000W</td>",
+                    cell + "450000.00N0223000.00W<", cell + "450000.000000N0223000.000000W<",
+                    cell + "045.000000, -022.500000<", cell + "2097152, -1048576<", "mlat=45.000000&mlon=-22.500000",
+                    "location=45.000000,-22.500000&title=450000N0223000W", "Baidu Map</a></td></tr></table><br/>"});
+    EXPECT_EQ(low.find("Octet[1-8]"), std::string::npos);
 }
 
 TEST(MotionCartesian, PositionAndVelocity) {
@@ -204,13 +218,10 @@ TEST(MotionVelocityPolar, DecodeAndTexts) {
     const AstVelocityPolar v = decode(ast_dataitem_velocity_polar_decode, o);
     EXPECT_TRUE(v.valid == 1 && v.speed_raw == 1024 && v.speed == 225.0 && v.heading == 180.0);
     EXPECT_EQ(text(ast_dataitem_velocity_polar_get_summary, span(o)), "SPD:225.00 HDG:180.00");
-    EXPECT_EQ(text(ast_dataitem_velocity_polar_get_detail_html, span(o)),
-              table({{"Octet", "Item", "Value"},
-                     {"Octet[1-2]", "GROUND_SPEED LSB:NM/S", "0.062500"},
-                     {"Octet[1-2]", "GROUND_SPEED LSB:M/S", "115.75"},
-                     {"Octet[1-2]", "GROUND_SPEED LSB:KNOT", "225.00"},
-                     {"Octet[1-2]", "GROUND_SPEED LSB:KM/H", "416.70"},
-                     {"Octet[3-4]", "HEADING LSB:DEG", "180.00"}}));
+    expect_in(text(ast_dataitem_velocity_polar_get_detail_html, span(o)),
+              {"<td>Octet[1-2]</td><td>GROUND_SPEED LSB:NM/S</td><td>0.062500</td>", "LSB:M/S</td><td>115.75<",
+               "LSB:KNOT</td><td>225.00<", "LSB:KM/H</td><td>416.70<",
+               "<td>Octet[3-4]</td><td>HEADING LSB:DEG</td><td>180.00</td></tr></table>"});
     // Both fields are unsigned.
     EXPECT_EQ(text(ast_dataitem_velocity_polar_get_summary, span(Octets{0xFF, 0xFF, 0xFF, 0xFF})),
               "SPD:14399.78 HDG:359.99");
@@ -252,48 +263,42 @@ TEST(MotionVerticalRate, DecodeBothLayouts) {
     const AstVerticalRate minus_one = decode(ast_dataitem_vertical_rate_decode, Octets{0x7F, 0xFF});
     EXPECT_TRUE(minus_one.re == 0 && minus_one.raw == -1);
 
-    const std::string expected = table({{"Bit", "Item", "Value"},
-                                        {"Bit[0-15]", "VERTICAL_RATE LSB=6.25FT/M", "-16384"},
-                                        {"Bit[0-15]", "VERTICAL_RATE LSB=FT/M", "-102400.00"},
-                                        {"Bit[0-15]", "VERTICAL_RATE LSB=METER/M", "-31211.52"}});
-    EXPECT_EQ(text(ast_dataitem_vertical_rate_get_detail_html, span(Octets{0xC0, 0x00})), expected);
-    EXPECT_EQ(text(ast_dataitem_vertical_rate_no_re_get_detail_html, span(Octets{0xC0, 0x00})), expected);
+    // 0xC000 reads as -16384 in both layouts.
+    const Octets c0 = {0xC0, 0x00};
+    const std::string html = text(ast_dataitem_vertical_rate_get_detail_html, span(c0));
+    expect_in(html, {"<td>Bit[0-15]</td><td>VERTICAL_RATE LSB=6.25FT/M</td><td>-16384</td>", "FT/M</td><td>-102400.00<",
+                     "<td>VERTICAL_RATE LSB=METER/M</td><td>-31211.52</td></tr></table>"});
+    EXPECT_EQ(text(ast_dataitem_vertical_rate_no_re_get_detail_html, span(c0)), html);
 }
 
 TEST(MotionVerticalRate, Encode) {
     const auto re = ast_dataitem_vertical_rate_encode;
     const auto no_re = ast_dataitem_vertical_rate_no_re_encode;
-    EXPECT_EQ(encode(re, AstVerticalRate{1, 1, 0, 0, -102400.0}), (Octets{0xC0, 0x00}));
-    EXPECT_EQ(encode(re, AstVerticalRate{1, 0, 0, 0, 102393.75}), (Octets{0x3F, 0xFF}));
-    EXPECT_EQ(encode(re, AstVerticalRate{7, 1, 0, 0, 102393.75}), (Octets{0xBF, 0xFF}));  // any valid flag
-    EXPECT_EQ(encode(re, AstVerticalRate{1, 2, 0, 0, 12.4}), (Octets{0x00, 0x01}));       // re must be 1
-    EXPECT_EQ(encode(re, AstVerticalRate{1, 0, 0, 0, -12.4}), (Octets{0x7F, 0xFF}));      // truncated to -1
-    EXPECT_EQ(encode(re, AstVerticalRate{1, 0, 5, 0, 0.0}), (Octets{0x00, 0x05}));
-    EXPECT_EQ(encode(re, AstVerticalRate{1, 0, 5, 0, NAN}), (Octets{0x00, 0x00}));  // NaN is not zero
-    EXPECT_EQ(encode(re, AstVerticalRate{0, 0, 5, 0, 0.0}), Octets{});
-    EXPECT_EQ(encode(re, AstVerticalRate{1, 0, 5, 0, 0.0}, 1), Octets{});
-    EXPECT_EQ(encode(no_re, AstVerticalRate{1, 1, 0, 0, -204800.0}), (Octets{0x80, 0x00}));
-    EXPECT_EQ(encode(no_re, AstVerticalRate{1, 1, 1, 0, 0.0}), (Octets{0x00, 0x01}));
-    EXPECT_EQ(encode(no_re, AstVerticalRate{1, 0, 0, 0, -6.25}), (Octets{0xFF, 0xFF}));
-    EXPECT_EQ(encode(no_re, AstVerticalRate{1, 0, 9, 0, NAN}), (Octets{0x00, 0x00}));
-    EXPECT_EQ(encode(no_re, AstVerticalRate{1, 0, 9, 0, 0.0}, 1), Octets{});
+    using Vr = AstVerticalRate;
+    EXPECT_EQ(encode(re, Vr{1, 1, 0, 0, -102400.0}), (Octets{0xC0, 0x00}));
+    EXPECT_EQ(encode(re, Vr{1, 0, 0, 0, 102393.75}), (Octets{0x3F, 0xFF}));
+    EXPECT_EQ(encode(re, Vr{7, 1, 0, 0, 102393.75}), (Octets{0xBF, 0xFF}));  // any valid flag
+    EXPECT_EQ(encode(re, Vr{1, 2, 0, 0, 12.4}), (Octets{0x00, 0x01}));       // re must be 1
+    EXPECT_EQ(encode(re, Vr{1, 0, 0, 0, -12.4}), (Octets{0x7F, 0xFF}));      // truncated to -1
+    EXPECT_EQ(encode(re, Vr{1, 0, 5, 0, 0.0}), (Octets{0x00, 0x05}));
+    EXPECT_EQ(encode(re, Vr{1, 0, 5, 0, NAN}), (Octets{0x00, 0x00}));  // NaN is not zero
+    EXPECT_EQ(encode(re, Vr{0, 0, 5, 0, 0.0}), Octets{});
+    EXPECT_EQ(encode(re, Vr{1, 0, 5, 0, 0.0}, 1), Octets{});
+    EXPECT_EQ(encode(no_re, Vr{1, 1, 0, 0, -204800.0}), (Octets{0x80, 0x00}));
+    EXPECT_EQ(encode(no_re, Vr{1, 1, 1, 0, 0.0}), (Octets{0x00, 0x01}));
+    EXPECT_EQ(encode(no_re, Vr{1, 0, 0, 0, -6.25}), (Octets{0xFF, 0xFF}));
+    EXPECT_EQ(encode(no_re, Vr{1, 0, 9, 0, NAN}), (Octets{0x00, 0x00}));
+    EXPECT_EQ(encode(no_re, Vr{1, 0, 9, 0, 0.0}, 1), Octets{});
 
     // Range boundaries round-trip.
-    for (double v : {-102400.0, 102393.75, -6.25}) {
-        EXPECT_EQ(decode(ast_dataitem_vertical_rate_decode, encode(re, AstVerticalRate{1, 0, 0, 0, v})).value, v);
-    }
-    for (double v : {-204800.0, 204793.75, -6.25}) {
-        const Octets o = encode(no_re, AstVerticalRate{1, 0, 0, 0, v});
-        EXPECT_EQ(decode(ast_dataitem_vertical_rate_no_re_decode, o).value, v);
-    }
+    for (double v : {-102400.0, 102393.75, -6.25})
+        EXPECT_EQ(decode(ast_dataitem_vertical_rate_decode, encode(re, Vr{1, 0, 0, 0, v})).value, v);
+    for (double v : {-204800.0, 204793.75, -6.25})
+        EXPECT_EQ(decode(ast_dataitem_vertical_rate_no_re_decode, encode(no_re, Vr{1, 0, 0, 0, v})).value, v);
 }
 
 // Every text producer with the length of its item.
-struct Producer {
-    size_t length;
-    TextFn fn;
-};
-const Producer kProducers[] = {
+const std::pair<size_t, TextFn> kProducers[] = {
     {6, ast_dataitem_position_wgs84_low_get_summary},  {6, ast_dataitem_position_wgs84_low_get_detail_html},
     {8, ast_dataitem_position_wgs84_get_summary},      {8, ast_dataitem_position_wgs84_get_detail_html},
     {6, ast_dataitem_position_cartesian_get_summary},  {4, ast_dataitem_velocity_cartesian_get_summary},
@@ -313,15 +318,13 @@ void expect_defaults(const T &r, double lsb1, double lsb2) {
 
 TEST(MotionItems, BadSpansGiveDefaultsAndEmptyText) {
     const Octets o(9, 0x11);
-    for (const Producer &p : kProducers) {
-        EXPECT_NE(text(p.fn, AstDataItem{o.data(), p.length, 0, 1}), "");
-        for (const AstDataItem &bad : {AstDataItem{o.data(), p.length - 1, 0, 1},
-                                       AstDataItem{o.data(), p.length + 1, 0, 1},
-                                       AstDataItem{o.data(), p.length, 0, 0}, AstDataItem{nullptr, p.length, 0, 1}}) {
-            EXPECT_EQ(text(p.fn, bad), "") << "length " << p.length;
-        }
+    for (const auto &[length, fn] : kProducers) {  // text() also cuts each to small buffers
+        EXPECT_NE(text(fn, AstDataItem{o.data(), length, 0, 1}), "");
+        for (const AstDataItem &bad : {AstDataItem{o.data(), length - 1, 0, 1}, AstDataItem{o.data(), length + 1, 0, 1},
+                                       AstDataItem{o.data(), length, 0, 0}, AstDataItem{nullptr, length, 0, 1}})
+            EXPECT_EQ(text(fn, bad), "") << "length " << length;
         char c = 'x';
-        p.fn(&c, 1, nullptr);
+        fn(&c, 1, nullptr);
         EXPECT_EQ(c, '\0');
     }
 
@@ -349,22 +352,6 @@ TEST(MotionItems, BadSpansGiveDefaultsAndEmptyText) {
     uint8_t buf[8] = {0xAA};
     ast_dataitem_position_wgs84_encode(&out, buf, sizeof buf, nullptr);
     EXPECT_TRUE(out.data == buf && out.length == 0 && out.valid == 0 && buf[0] == 0xAA);
-}
-
-TEST(MotionItems, TextsAreCutToTheBuffer) {
-    const Octets o = {0x12, 0x34, 0x56, 0x78, 0x9A, 0xBC, 0xDE, 0xF0};
-    for (const Producer &p : kProducers) {
-        const AstDataItem item{o.data(), p.length, 0, 1};
-        const std::string full = text(p.fn, item);
-        for (size_t size : {size_t{0}, size_t{1}, full.size()}) {
-            std::vector<char> mem(size + 16, '#');
-            p.fn(mem.data(), size, &item);
-            for (size_t i = size; i < mem.size(); ++i) ASSERT_EQ(mem[i], '#') << full << " size " << size;
-            if (size > 0) {
-                EXPECT_EQ(std::string(mem.data()), full.substr(0, size - 1));
-            }
-        }
-    }
 }
 
 }  // namespace
