@@ -2,12 +2,13 @@
 // plot UAPs, of the ASR-10SS and ASR-10SS Mk2 sensor layouts and of the
 // MANAGAIR custom field, and the common items that serve some of them.
 #include "kovrel/cat001.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+using namespace views;
 
 // Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex.
 // Items served by a common item take its summary and detail view.

@@ -2,12 +2,13 @@
 // UAP, of the ASR-10SS station status items and of the MANAGAIR custom
 // field, and the common items that serve some of them.
 #include "kovrel/cat002.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+using namespace views;
 
 // I002/060, 070, 080, 090 and 100 stand in the UAP but have no row: they
 // cannot be sized, so a record announcing one of them stops there.

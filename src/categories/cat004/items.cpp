@@ -4,10 +4,13 @@
 #include "kovrel/cat004.h"
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
+
+using namespace views;
 
 constexpr SubfieldRow k100Subfields[] = {
     // Eight characters of the 6-bit ICAO alphabet.
@@ -97,10 +100,7 @@ constinit const CompoundItem kCompound004_171 = make_compound(10, k171Subfields,
 
 namespace {
 
-constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
 // Detail slot of the items without a view of their own.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 // I004/015, 045, 070, 074, 075, 076 and 110 stand in the UAP but have no
 // row: the library neither names nor sizes them, so a record announcing one

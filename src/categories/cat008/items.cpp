@@ -5,6 +5,7 @@
 #include "kovrel/cat008.h"
 #include "kovrel/core.h"
 #include "kovrel/items.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 // I008/100 opens with a first part of three octets; only the third octet
@@ -24,14 +25,7 @@ extern "C" KOVREL_API uint64_t ast_dataitem_008_100_get_size(const uint8_t *octe
 namespace kovrel {
 namespace {
 
-// Common items without a detail view fill the slot with the empty view.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
-
-// Views of the common items, named once so that the rows read as a table.
-constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
-constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+using namespace views;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,

@@ -5,10 +5,13 @@
 // structured entry points of common_items.cpp.
 #include "kovrel/cat015.h"
 #include "kovrel/items.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
+
+using namespace views;
 
 // Every CAT015 subfield has a fixed length.
 constexpr SubfieldRow fixed(const char *id, const char *name, uint16_t n) {
@@ -167,24 +170,9 @@ constinit const CompoundItem kCompound015_630 = make_compound(4, k630Subfields, 
 
 namespace {
 
-constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
-
 constexpr ItemRow compound(uint16_t item, const char *name, AstDataItemGetSizeFn size, const CompoundItem &c) {
     return ItemRow{item, name, size, kCompoundSummary, kCompoundDetail, nullptr, nullptr, &c};
 }
-
-// Common items without a detail view fill the slot with the empty view.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
-
-// Views of the common items, named once so that the rows read as a table.
-constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
-constexpr AstDataItemGetSummaryFn kServiceSummary = ast_dataitem_service_id_get_summary;
-constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
-constexpr AstDataItemGetSummaryFn kTrackSummary = ast_dataitem_track_number_get_summary;
-constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,

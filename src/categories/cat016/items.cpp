@@ -5,23 +5,13 @@
 // structured entry points of common_items.cpp.
 #include "kovrel/cat016.h"
 #include "kovrel/items.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
-// Common items without a detail view fill the slot with the empty view.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
-
-// Views of the common items, named once so that the rows read as a table.
-constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
-constexpr AstDataItemGetSummaryFn kServiceSummary = ast_dataitem_service_id_get_summary;
-constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
-constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
-constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
+using namespace views;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,

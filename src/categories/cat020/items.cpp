@@ -5,10 +5,13 @@
 // structured entry points of common_items.cpp.
 #include "kovrel/cat020.h"
 #include "kovrel/items.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
+
+using namespace views;
 
 constexpr SubfieldRow k500Subfields[] = {
     // DOP of x, y and their correlation: two octets each.
@@ -31,36 +34,6 @@ namespace kovrel {
 constinit const CompoundItem kCompound020_500 = make_compound(3, k500Subfields, KOVREL_SUBFIELD_FUNCS(020_500));
 
 namespace {
-
-// Common items without a detail view fill the slot with the empty view.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
-
-// Views of the common items, named once so that the rows read as a table.
-constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
-constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
-constexpr AstDataItemGetSummaryFn kTrackSummary = ast_dataitem_track_number_get_summary;
-constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
-constexpr AstDataItemGetSummaryFn kCartesianSummary = ast_dataitem_position_cartesian_get_summary;
-constexpr AstDataItemGetSummaryFn kVelocitySummary = ast_dataitem_velocity_cartesian_get_summary;
-constexpr AstDataItemGetSummaryFn kHeightSummary = ast_dataitem_height_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kHeightDetail = ast_dataitem_height_get_detail_html;
-constexpr AstDataItemGetSummaryFn kMode3aSummary = ast_dataitem_mode_3a_code_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kMode3aDetail = ast_dataitem_mode_3a_code_get_detail_html;
-constexpr AstDataItemGetSummaryFn kModeCSummary = ast_dataitem_mode_c_code_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kModeCDetail = ast_dataitem_mode_c_code_get_detail_html;
-constexpr AstDataItemGetSummaryFn kModeCQualitySummary = ast_dataitem_mode_c_confidence_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kModeCQualityDetail = ast_dataitem_mode_c_confidence_get_detail_html;
-constexpr AstDataItemGetSummaryFn kAddressSummary = ast_dataitem_target_address_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kAddressDetail = ast_dataitem_target_address_get_detail_html;
-constexpr AstDataItemGetSummaryFn kTargetIdSummary = ast_dataitem_target_id_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kTargetIdDetail = ast_dataitem_target_id_get_detail_html;
-constexpr AstDataItemGetSummaryFn kModesMbSummary = ast_dataitem_modes_mb_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kModesMbDetail = ast_dataitem_modes_mb_get_detail_html;
-constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
-constexpr AstDataItemGetSummaryFn kRefSummary = ast_dataitem_reserved_expansion_field_get_summary;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,

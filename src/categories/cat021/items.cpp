@@ -6,6 +6,7 @@
 #include "categories/cat021/subfields.h"
 #include "kovrel/cat021.h"
 #include "kovrel/items.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 // Surface capabilities of editions 1.0 to 2.1: one octet, or two when the
@@ -20,36 +21,7 @@ extern "C" KOVREL_API uint64_t ast_dataitem_021_A07_get_size(const uint8_t *octe
 namespace kovrel {
 namespace {
 
-constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
-// Common items without a detail view fill the slot with the empty view.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
-
-// Views of the common items, named once so that the rows read as a table.
-constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
-constexpr AstDataItemGetSummaryFn kServiceSummary = ast_dataitem_service_id_get_summary;
-constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
-constexpr AstDataItemGetSummaryFn kTimeHighSummary = ast_dataitem_time_of_day_high_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kTimeHighDetail = ast_dataitem_time_of_day_high_get_detail_html;
-constexpr AstDataItemGetSummaryFn kMode3aSummary = ast_dataitem_mode_3a_code_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kMode3aDetail = ast_dataitem_mode_3a_code_get_detail_html;
-constexpr AstDataItemGetSummaryFn kAddressSummary = ast_dataitem_target_address_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kAddressDetail = ast_dataitem_target_address_get_detail_html;
-constexpr AstDataItemGetSummaryFn kTrackSummary = ast_dataitem_track_number_get_summary;
-constexpr AstDataItemGetSummaryFn kIdentSummary = ast_dataitem_aircraft_id_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kIdentDetail = ast_dataitem_aircraft_id_get_detail_html;
-constexpr AstDataItemGetSummaryFn kWgs84LowSummary = ast_dataitem_position_wgs84_low_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kWgs84LowDetail = ast_dataitem_position_wgs84_low_get_detail_html;
-constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
-constexpr AstDataItemGetSummaryFn kRateSummary = ast_dataitem_vertical_rate_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kRateDetail = ast_dataitem_vertical_rate_get_detail_html;
-constexpr AstDataItemGetSummaryFn kRateNoReSummary = ast_dataitem_vertical_rate_no_re_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kRateNoReDetail = ast_dataitem_vertical_rate_no_re_get_detail_html;
-constexpr AstDataItemGetSummaryFn kModesMbSummary = ast_dataitem_modes_mb_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kModesMbDetail = ast_dataitem_modes_mb_get_detail_html;
+using namespace views;
 
 // Rows without a name (110, 148, 165, 220) are delimited but have no
 // display name of their own: the name function answers "Unknown CAT021

@@ -8,6 +8,7 @@
 #include "kovrel/core.h"
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 // I023/101 Ground Station Configuration: octet 1 is the report period as a
@@ -26,8 +27,9 @@ extern "C" KOVREL_API uint64_t ast_dataitem_023_101_get_size(const uint8_t *octe
 namespace kovrel {
 namespace {
 
+using namespace views;
+
 // Detail slot of the items without a view of their own.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,

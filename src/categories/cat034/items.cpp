@@ -2,10 +2,13 @@
 // that serve some of them, and the subfields of the compound items I034/050
 // and I034/060.
 #include "kovrel/cat034.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
+
+using namespace views;
 
 // Subfields 2 and 3 of both compound items are spare bits of the primary
 // subfield: a sender that sets them adds no octets. Subfield 7 has no data
@@ -47,10 +50,6 @@ constinit const CompoundItem kCompound034_050 = make_compound(7, k050Subfields, 
 constinit const CompoundItem kCompound034_060 = make_compound(7, k060Subfields, KOVREL_SUBFIELD_FUNCS(034_060));
 
 namespace {
-
-constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 // I034/100 (Generic Polar Window) stands in the UAP but has no row: it
 // cannot be sized, so a record announcing it stops there.

@@ -3,10 +3,13 @@
 // and I048/130.
 #include "categories/cat048/plot_characteristics.h"
 #include "kovrel/cat048.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
+
+using namespace views;
 
 constexpr SubfieldRow k120Subfields[] = {
     {"CAL", "Calculated Doppler Speed", SubfieldRule::Fixed, 2, nullptr, nullptr, nullptr},
@@ -42,10 +45,6 @@ constinit const CompoundItem kCompound048_120 = make_compound(2, k120Subfields, 
 constinit const CompoundItem kCompound048_130 = make_compound(7, k130Subfields, KOVREL_SUBFIELD_FUNCS(048_130));
 
 namespace {
-
-constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 // I048/055, 060 and 065 stand in the UAP but have no row: they cannot be
 // sized, so a record announcing them stops there.

@@ -6,6 +6,7 @@
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
 #include "kovrel/items_motion.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 // I062/510 is a chain of 3-octet groups (system unit identification and
@@ -23,10 +24,9 @@ extern "C" KOVREL_API uint64_t ast_dataitem_062_510_get_size(const uint8_t *octe
 namespace kovrel {
 namespace {
 
-constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
-constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+using namespace views;
+
 // Detail slot of the items without a view of their own.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,

@@ -9,13 +9,15 @@
 #include "kovrel/cat240.h"
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
+#include "items/common_views.h"
 #include "record/item_table.h"
 
 namespace kovrel {
 namespace {
 
+using namespace views;
+
 // Detail slot of the items without a view of their own.
-constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,

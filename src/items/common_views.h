@@ -1,0 +1,53 @@
+// The views of the common items and of the generic compound and empty
+// detail, named once so that the category dispatch rows read as a table.
+#pragma once
+
+#include "kovrel/dataitem.h"
+#include "kovrel/items.h"
+#include "kovrel/subfield.h"
+
+namespace kovrel::views {
+
+inline constexpr AstDataItemGetDetailHtmlFn kAddressDetail = ast_dataitem_target_address_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kAddressSummary = ast_dataitem_target_address_get_summary;
+inline constexpr AstDataItemGetSummaryFn kCartesianSummary = ast_dataitem_position_cartesian_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kCompoundDetail = ast_dataitem_subfields_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kCompoundSummary = ast_dataitem_subfields_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kHeightDetail = ast_dataitem_height_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kHeightSummary = ast_dataitem_height_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kIdentDetail = ast_dataitem_aircraft_id_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kIdentSummary = ast_dataitem_aircraft_id_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kMode3aDetail = ast_dataitem_mode_3a_code_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kMode3aSummary = ast_dataitem_mode_3a_code_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kModeCDetail = ast_dataitem_mode_c_code_get_detail_html;
+inline constexpr AstDataItemGetDetailHtmlFn kModeCQualityDetail = ast_dataitem_mode_c_confidence_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kModeCQualitySummary = ast_dataitem_mode_c_confidence_get_summary;
+inline constexpr AstDataItemGetSummaryFn kModeCSummary = ast_dataitem_mode_c_code_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kModesMbDetail = ast_dataitem_modes_mb_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kModesMbSummary = ast_dataitem_modes_mb_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kNoDetail = ast_dataitem_get_detail_html_dummy;
+inline constexpr AstDataItemGetDetailHtmlFn kPolarDetail = ast_dataitem_velocity_polar_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kPolarSummary = ast_dataitem_velocity_polar_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kRateDetail = ast_dataitem_vertical_rate_get_detail_html;
+inline constexpr AstDataItemGetDetailHtmlFn kRateNoReDetail = ast_dataitem_vertical_rate_no_re_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kRateNoReSummary = ast_dataitem_vertical_rate_no_re_get_summary;
+inline constexpr AstDataItemGetSummaryFn kRateSummary = ast_dataitem_vertical_rate_get_summary;
+inline constexpr AstDataItemGetSummaryFn kRefSummary = ast_dataitem_reserved_expansion_field_get_summary;
+inline constexpr AstDataItemGetSummaryFn kServiceSummary = ast_dataitem_service_id_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kSourceDetail = ast_dataitem_data_source_identifier_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kSourceSummary = ast_dataitem_data_source_identifier_get_summary;
+inline constexpr AstDataItemGetSummaryFn kSpfSummary = ast_dataitem_special_purpose_field_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kTargetIdDetail = ast_dataitem_target_id_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kTargetIdSummary = ast_dataitem_target_id_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kTimeDetail = ast_dataitem_time_of_day_get_detail_html;
+inline constexpr AstDataItemGetDetailHtmlFn kTimeHighDetail = ast_dataitem_time_of_day_high_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kTimeHighSummary = ast_dataitem_time_of_day_high_get_summary;
+inline constexpr AstDataItemGetSummaryFn kTimeSummary = ast_dataitem_time_of_day_get_summary;
+inline constexpr AstDataItemGetSummaryFn kTrackSummary = ast_dataitem_track_number_get_summary;
+inline constexpr AstDataItemGetSummaryFn kVelocitySummary = ast_dataitem_velocity_cartesian_get_summary;
+inline constexpr AstDataItemGetDetailHtmlFn kWgs84Detail = ast_dataitem_position_wgs84_get_detail_html;
+inline constexpr AstDataItemGetDetailHtmlFn kWgs84LowDetail = ast_dataitem_position_wgs84_low_get_detail_html;
+inline constexpr AstDataItemGetSummaryFn kWgs84LowSummary = ast_dataitem_position_wgs84_low_get_summary;
+inline constexpr AstDataItemGetSummaryFn kWgs84Summary = ast_dataitem_position_wgs84_get_summary;
+
+}  // namespace kovrel::views
