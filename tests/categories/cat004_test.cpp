@@ -16,6 +16,7 @@
 #include "support/served.h"
 
 using kovrel_test::expect_row;
+using kovrel_test::scanned;
 using kovrel_test::kShown;
 using kovrel_test::kCodec;
 using kovrel_test::kDecodeSummary;
@@ -39,13 +40,6 @@ std::string summary(AstItemId id, const Octets &o) {
     ast_dataitem_get_summary(text, sizeof text, &item);
     return text;
 }
-
-AstDataItem scanned(AstItemId id, const Octets &o) {
-    AstDataItem item;
-    ast_dataitem_scan(&item, o.data(), o.size(), id);
-    return item;
-}
-
 
 }  // namespace
 

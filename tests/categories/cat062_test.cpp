@@ -14,6 +14,7 @@
 #include "support/served.h"
 
 using kovrel_test::expect_row;
+using kovrel_test::scanned;
 using kovrel_test::kShown;
 using kovrel_test::kCodec;
 using kovrel_test::kDecodeSummary;
@@ -35,13 +36,6 @@ std::vector<uint8_t> with_octets(std::vector<uint8_t> head, size_t n, uint8_t fi
     head.resize(head.size() + n, fill);
     return head;
 }
-
-AstDataItem scanned(AstItemId id, const Octets &o) {
-    AstDataItem item;
-    ast_dataitem_scan(&item, o.data(), o.size(), id);
-    return item;
-}
-
 
 }  // namespace
 

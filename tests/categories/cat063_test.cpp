@@ -15,6 +15,7 @@
 #include "support/served.h"
 
 using kovrel_test::expect_row;
+using kovrel_test::scanned;
 using kovrel_test::kShown;
 using kovrel_test::kCodec;
 using kovrel_test::kDecodeSummary;
@@ -22,17 +23,6 @@ using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 using kovrel_test::Scanned;
 using kovrel_test::walk;
-
-namespace {
-
-AstDataItem scanned(AstItemId id, const Octets &o) {
-    AstDataItem item;
-    ast_dataitem_scan(&item, o.data(), o.size(), id);
-    return item;
-}
-
-
-}  // namespace
 
 TEST(Cat063, NamesWithASilentFallback) {
     LogCapture log;

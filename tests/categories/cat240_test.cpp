@@ -11,9 +11,11 @@
 #include "kovrel/items.h"
 #include "kovrel/uap.h"
 #include "support/log_capture.h"
+#include "support/record_walk.h"
 #include "support/served.h"
 
 using kovrel_test::expect_row;
+using kovrel_test::scanned;
 using kovrel_test::kShown;
 using kovrel_test::kCodec;
 using kovrel_test::kDecodeSummary;
@@ -24,13 +26,6 @@ using Items = std::vector<std::pair<AstItemId, uint64_t>>;
 namespace {
 
 uint64_t size_of(AstItemId id, const Octets &o) { return ast_dataitem_get_size(o.data(), o.size(), id); }
-
-AstDataItem scanned(AstItemId id, const Octets &o) {
-    AstDataItem item;
-    ast_dataitem_scan(&item, o.data(), o.size(), id);
-    return item;
-}
-
 
 // Scans the items of a CAT240 record in FRN order; `consumed` is where the
 // last delimited item ended.

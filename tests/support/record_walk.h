@@ -23,6 +23,13 @@ struct Scanned {
 std::vector<Scanned> walk(const AstUap &uap, uint32_t category, const Octets &record, size_t *consumed);
 
 // The size rule's answer for id over all of o.
+// The span of o scanned as item id.
+inline AstDataItem scanned(AstItemId id, const Octets &o) {
+    AstDataItem item;
+    ast_dataitem_scan(&item, o.data(), o.size(), id);
+    return item;
+}
+
 inline uint64_t size_of(AstItemId id, const Octets &o) { return ast_dataitem_get_size(o.data(), o.size(), id); }
 
 // `extended` octets with the FX bit set followed by one that ends the chain.
