@@ -14,6 +14,7 @@
 #include "kovrel/html.h"
 #include "kovrel/enums.h"
 #include "kovrel/dataitem.h"
+#include "kovrel/fields.h"
 #include "kovrel/subfield.h"
 #include "kovrel/items.h"
 #include "kovrel/datarecord.h"

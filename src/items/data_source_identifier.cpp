@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "core/state.h"
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/items_ident.h"
 
@@ -143,3 +144,17 @@ KOVREL_API void ast_dataitem_data_source_identifier_get_detail_html(char *buffer
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstDataSourceIdentifier;
+constexpr FieldRow kSourceRows[] = {
+    integer("sac", KOVREL_MEMBER(T, sac)).width(8),
+    integer("sic", KOVREL_MEMBER(T, sic)).width(8),
+};
+}  // namespace
+
+constinit const FieldDesc kDataSourceIdentifier = describe<T, ast_dataitem_data_source_identifier_init>(kSourceRows);
+
+}  // namespace kovrel::fields

@@ -16,6 +16,10 @@
 
 namespace kovrel {
 
+namespace fields {
+struct FieldDesc;
+}
+
 // How a subfield is delimited.
 enum class SubfieldRule : uint8_t {
     None,      // no size function: the subfield adds 0 octets
@@ -81,6 +85,8 @@ struct ItemRow {
     AstDataItemGetDetailHtmlFn get_detail_html = nullptr;
     AstDataItemEncodeExFn encode_ex = nullptr;
     AstDataItemDecodeExFn decode_ex = nullptr;
+    // The members of the structure decode_ex fills, by name (fields.h).
+    const fields::FieldDesc *fields = nullptr;
     const CompoundItem *compound = nullptr;  // subfields of a compound item
 };
 

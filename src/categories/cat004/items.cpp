@@ -121,15 +121,15 @@ constexpr ItemRow kRows[] = {
     {30, "Track Number 1", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_track_number_get_summary, kNoDetail,
      ast_dataitem_004_030_encode_ex, ast_dataitem_004_030_decode_ex},
     {170, "Aircraft Identification & Characteristics 1", ast_dataitem_004_170_get_size, kCompoundSummary,
-     kCompoundDetail, nullptr, nullptr, &kCompound004_170},
+     kCompoundDetail, nullptr, nullptr, nullptr, &kCompound004_170},
     {120, "Conflict Characteristics", ast_dataitem_004_120_get_size, kCompoundSummary, kCompoundDetail, nullptr,
-     nullptr, &kCompound004_120},
+     nullptr, nullptr, &kCompound004_120},
     {100, "Area Definition", ast_dataitem_004_100_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
-     &kCompound004_100},
+     nullptr, &kCompound004_100},
     {35, "Track Number 2", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_track_number_get_summary, kNoDetail,
      ast_dataitem_004_035_encode_ex, ast_dataitem_004_035_decode_ex},
     {171, "Aircraft Identification & Characteristics 2", ast_dataitem_004_171_get_size, kCompoundSummary,
-     kCompoundDetail, nullptr, nullptr, &kCompound004_171},
+     kCompoundDetail, nullptr, nullptr, nullptr, &kCompound004_171},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
      ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_004_REF_decode_ex},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
@@ -140,7 +140,7 @@ constexpr ItemRow kRows[] = {
     {15, nullptr, ast_dataitem_get_size_rep_2_byte},  // SDPS identifiers
     {45, nullptr, ast_dataitem_get_size_fixed_1_byte},  // area and alert status
     {70, nullptr, ast_dataitem_004_070_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
-     &kCompound004_070},  // conflict timing and separation
+     nullptr, &kCompound004_070},  // conflict timing and separation
     {74, nullptr, ast_dataitem_get_size_fixed_2_byte},   // longitudinal deviation
     {75, nullptr, ast_dataitem_get_size_fixed_3_byte},   // transversal distance deviation
     {76, nullptr, ast_dataitem_get_size_fixed_2_byte},   // vertical deviation

@@ -171,7 +171,7 @@ constinit const CompoundItem kCompound015_630 = make_compound(4, k630Subfields, 
 namespace {
 
 constexpr ItemRow compound(uint16_t item, const char *name, AstDataItemGetSizeFn size, const CompoundItem &c) {
-    return ItemRow{item, name, size, kCompoundSummary, kCompoundDetail, nullptr, nullptr, &c};
+    return ItemRow{item, name, size, kCompoundSummary, kCompoundDetail, nullptr, nullptr, nullptr, &c};
 }
 
 constexpr ItemRow kRows[] = {

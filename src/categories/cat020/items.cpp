@@ -75,7 +75,7 @@ constexpr ItemRow kRows[] = {
     {300, "Vehicle Fleet Identification", ast_dataitem_get_size_fixed_1_byte},
     {310, "Pre-programmed Message", ast_dataitem_get_size_fixed_1_byte},
     {500, "Position Accuracy", ast_dataitem_020_500_get_size, ast_dataitem_subfields_get_summary,
-     ast_dataitem_subfields_get_detail_html, nullptr, nullptr, &kCompound020_500},
+     ast_dataitem_subfields_get_detail_html, nullptr, nullptr, nullptr, &kCompound020_500},
     // One octet of eight contribution bits per repetition.
     {400, "Contributing Devices", ast_dataitem_get_size_rep_1_byte},
     // Seven octets of register data and the register address octet.

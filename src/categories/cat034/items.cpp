@@ -76,10 +76,10 @@ constexpr ItemRow kRows[] = {
      ast_dataitem_034_041_encode_ex, ast_dataitem_034_041_decode_ex},
     {50, "Station Configuration & Status", ast_dataitem_034_050_get_size,
      kCompoundSummary, kCompoundDetail,
-     nullptr, nullptr, &kCompound034_050},
+     nullptr, nullptr, nullptr, &kCompound034_050},
     {60, "System Processing Mode", ast_dataitem_034_060_get_size,
      kCompoundSummary, kCompoundDetail,
-     nullptr, nullptr, &kCompound034_060},
+     nullptr, nullptr, nullptr, &kCompound034_060},
     {70, "Message Count Values", ast_dataitem_get_size_rep_2_byte},
     {110, "Data Filter", ast_dataitem_get_size_fixed_1_byte},
     // "Of" with a capital O is the name existing consumers display and match on.

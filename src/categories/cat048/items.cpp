@@ -4,6 +4,7 @@
 #include "categories/cat048/plot_characteristics.h"
 #include "kovrel/cat048.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -54,7 +55,7 @@ namespace {
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
-     ast_dataitem_048_010_encode_ex, ast_dataitem_048_010_decode_ex},
+     ast_dataitem_048_010_encode_ex, ast_dataitem_048_010_decode_ex, &fields::kDataSourceIdentifier},
     {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte,
      ast_dataitem_time_of_day_get_summary, ast_dataitem_time_of_day_get_detail_html,
      ast_dataitem_048_140_encode_ex, ast_dataitem_048_140_decode_ex},
@@ -72,7 +73,7 @@ constexpr ItemRow kRows[] = {
      ast_dataitem_048_090_encode_ex, ast_dataitem_048_090_decode_ex},
     {130, "Radar Plot Characteristics", ast_dataitem_048_130_get_size,
      kCompoundSummary, kCompoundDetail,
-     nullptr, ast_dataitem_048_130_decode_ex, &kCompound048_130},
+     nullptr, ast_dataitem_048_130_decode_ex, nullptr, &kCompound048_130},
     {220, "Aircraft Address", ast_dataitem_get_size_fixed_3_byte,
      ast_dataitem_target_address_get_summary, ast_dataitem_target_address_get_detail_html,
      ast_dataitem_048_220_encode_ex, ast_dataitem_048_220_decode_ex},
@@ -112,7 +113,7 @@ constexpr ItemRow kRows[] = {
      nullptr, ast_dataitem_048_110_decode_ex},
     {120, "Radial Doppler Speed", ast_dataitem_048_120_get_size,
      kCompoundSummary, kCompoundDetail,
-     nullptr, ast_dataitem_048_120_decode_ex, &kCompound048_120},
+     nullptr, ast_dataitem_048_120_decode_ex, nullptr, &kCompound048_120},
     {230, "Communications / ACAS Capability and Flight Status", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_048_230_get_summary, ast_dataitem_048_230_get_detail_html,
      nullptr, ast_dataitem_048_230_decode_ex},
