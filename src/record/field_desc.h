@@ -85,6 +85,7 @@ struct FieldRow {
     uint8_t kind = 0;        // AstFieldKind, kKindGroup, kKindArray, kKindCustom or kKindOctetsPtr
     uint8_t format = AST_FIELD_FORMAT_DECIMAL;
     uint8_t bits = 0;        // wire width of an integer field, checked when setting (0: the member's width)
+    bool invert = false;     // a flag whose member holds the opposite (validated for the V bit)
     Member m;                // the value (for a group: the nested structure; for an array: its first element)
     const char *unit = "";
     double scale = 0;        // a REAL held as an integer member: value = member x scale
@@ -107,6 +108,13 @@ struct FieldRow {
     constexpr FieldRow width(uint8_t n) const {
         FieldRow r = *this;
         r.bits = n;
+        return r;
+    }
+    // A flag shown as the opposite of its member: the wire's V bit ("not
+    // validated") over a structure that keeps "validated".
+    constexpr FieldRow inverted() const {
+        FieldRow r = *this;
+        r.invert = true;
         return r;
     }
     constexpr FieldRow shown(AstFieldFormat f) const {

@@ -75,7 +75,7 @@ int set_value(const FieldRow &row, void *base, const AstField &v) {
     case AST_FIELD_FLAG:
         if (!integral(v, negative, magnitude)) return AST_FIELD_SET_WRONG_KIND;
         if (negative || magnitude > 1) return AST_FIELD_SET_OUT_OF_RANGE;
-        return set_integer(row, base, false, magnitude);
+        return set_integer(row, base, false, row.invert ? 1 - magnitude : magnitude);
     case AST_FIELD_UNSIGNED:
     case AST_FIELD_SIGNED:
     case AST_FIELD_ENUM:

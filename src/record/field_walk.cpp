@@ -70,7 +70,7 @@ bool Walker::walk_row(const FieldRow &row, const void *base) {
     f.index = index;
     switch (row.kind) {
     case AST_FIELD_FLAG:
-        f.u = read_unsigned(row.m, base) != 0 ? 1 : 0;
+        f.u = (read_unsigned(row.m, base) != 0) != row.invert ? 1 : 0;
         return emit(f);
     case AST_FIELD_UNSIGNED:
         f.u = read_unsigned(row.m, base);
