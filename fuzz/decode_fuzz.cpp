@@ -1,10 +1,13 @@
 // Decodes arbitrary octets as a data block with every profile, the smart and
 // the CAT001 mixed decoders, then runs every view of every record and item
-// found, copies and rewrites every record, disassembles and assembles every
+// found, walks every item's fields and checks that their JSON parses and that
+// setting them by name encodes the same octets, copies and rewrites every record, disassembles and assembles every
 // CAT048 record, and assembles CAT048 records from arbitrary member values.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+
+#include <nlohmann/json.hpp>
 
 #include "kovrel/kovrel.h"
 
@@ -14,6 +17,95 @@ AstDataBlock g_block;
 AstDataBlock g_rewritten;
 char g_text[1 << 16];
 uint8_t g_buffer[1 << 17];
+
+// Collects the leaves of a walk as (path, value) pairs; groups and arrays
+// must open and close in step.
+struct Leaves {
+    static constexpr size_t kMax = 256;
+    char paths[kMax][128];
+    AstField values[kMax];
+    size_t count = 0;
+    bool settable = true;  // no leaf sits inside an array or was dropped
+    const char *names[16];
+    uint32_t depth = 0;
+    uint32_t in_array = 0;
+};
+
+int collect(void *context, const AstField *f) {
+    auto &l = *static_cast<Leaves *>(context);
+    if (f->depth != l.depth) __builtin_trap();
+    if (f->kind == AST_FIELD_GROUP_BEGIN || f->kind == AST_FIELD_ARRAY_BEGIN) {
+        if (l.depth >= 16) __builtin_trap();
+        if (l.in_array > 0 || f->kind == AST_FIELD_ARRAY_BEGIN || !f->name) ++l.in_array;
+        l.names[l.depth++] = f->name;
+        return 1;
+    }
+    if (f->kind == AST_FIELD_GROUP_END || f->kind == AST_FIELD_ARRAY_END) {
+        if (l.depth == 0) __builtin_trap();
+        --l.depth;
+        if (l.in_array > 0) --l.in_array;
+        return 1;
+    }
+    if (l.in_array > 0 || f->kind == AST_FIELD_OCTETS || l.count == Leaves::kMax) {
+        l.settable = false;
+        return 1;
+    }
+    char *path = l.paths[l.count];
+    size_t at = 0;
+    for (uint32_t i = 0; i <= l.depth; ++i) {
+        const char *name = i < l.depth ? l.names[i] : f->name;
+        if (!name) __builtin_trap();
+        const int n = std::snprintf(path + at, sizeof l.paths[0] - at, i == 0 ? "%s" : ".%s", name);
+        if (n < 0 || at + static_cast<size_t>(n) >= sizeof l.paths[0]) __builtin_trap();
+        at += static_cast<size_t>(n);
+    }
+    l.values[l.count++] = *f;
+    return 1;
+}
+
+int stop_at_third(void *context, const AstField *) { return ++*static_cast<int *>(context) < 3; }
+
+// The fields of an item: their JSON parses, a cut JSON keeps its size, and
+// an item that encodes back to its own octets encodes the same from values
+// set by name.
+void exercise_fields(const AstDataItem &item, const void *decoded) {
+    static char json[1 << 16];
+    const size_t n = ast_dataitem_get_fields_json(json, sizeof json, &item);
+    if (n == 0) {
+        if (json[0] != '\0') __builtin_trap();
+        return;
+    }
+    if (n >= sizeof json || std::strlen(json) != n) __builtin_trap();
+    if (!nlohmann::json::accept(json, json + n)) __builtin_trap();
+    const size_t cut = n / 2 + 1;
+    if (ast_dataitem_get_fields_json(g_text, cut, &item) != n || std::strlen(g_text) != cut - 1) __builtin_trap();
+    int visited = 0;
+    const int stopped = ast_dataitem_walk_fields(&item, stop_at_third, &visited);
+    if (stopped == AST_FIELDS_STOPPED ? visited != 3 : stopped != AST_FIELDS_DONE) __builtin_trap();
+
+    static Leaves leaves;
+    leaves = Leaves{};
+    if (ast_dataitem_walk_fields(&item, collect, &leaves) != AST_FIELDS_DONE || leaves.depth != 0) __builtin_trap();
+    AstDataItemFuncs f;
+    ast_dataitem_get_func(&f, item.id);
+    if (!decoded || !f.encode_ex || !leaves.settable) return;
+    static uint8_t direct[1 << 12];
+    static uint8_t named[1 << 12];
+    AstDataItemValue value{1, item.id, const_cast<void *>(decoded)};
+    AstDataItem out;
+    ast_dataitem_encode(&out, direct, sizeof direct, &value);
+    if (out.valid != 1 || out.length != item.length || std::memcmp(direct, item.data, item.length) != 0) return;
+    alignas(16) static uint8_t storage[1 << 14];
+    if (ast_dataitem_fields_init(storage, sizeof storage, item.id) != 1) __builtin_trap();
+    for (size_t i = 0; i < leaves.count; ++i)
+        if (ast_dataitem_fields_set(storage, sizeof storage, item.id, leaves.paths[i], &leaves.values[i]) !=
+            AST_FIELD_SET_OK)
+            __builtin_trap();
+    value.value = storage;
+    ast_dataitem_encode(&out, named, sizeof named, &value);
+    if (out.valid != 1 || out.length != item.length || std::memcmp(named, item.data, item.length) != 0)
+        __builtin_trap();
+}
 
 void exercise_item(const AstDataItem &item) {
     ast_dataitem_get_summary(g_text, sizeof g_text, &item);
@@ -34,6 +126,7 @@ void exercise_item(const AstDataItem &item) {
     ast_dataitem_get_func(&f, item.id);
     if (f.decode_ex) {
         ast_dataitem_decode(&value, storage, sizeof storage, &item);
+        exercise_fields(item, value.valid == 1 ? value.value : nullptr);
         // Whatever decoded must encode back without overrunning any buffer.
         if (f.encode_ex && value.value) {
             static uint8_t encoded[1 << 12];

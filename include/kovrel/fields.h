@@ -115,6 +115,13 @@ KOVREL_API int ast_datavalue_walk_fields(const AstDataItemValue *value, AstField
 KOVREL_API size_t ast_dataitem_get_fields_json(char *buffer, size_t size, const AstDataItem *item);
 
 /**
+ * The JSON object of a value decoded before (ast_dataitem_decode), as
+ * ast_dataitem_get_fields_json writes it for a span; 0 and the empty text
+ * when ast_datavalue_walk_fields would not walk it.
+ */
+KOVREL_API size_t ast_datavalue_get_fields_json(char *buffer, size_t size, const AstDataItemValue *value);
+
+/**
  * The size of the structure that an identifier's fields describe (what
  * ast_dataitem_decode fills and ast_dataitem_encode reads); 0 when the
  * identifier has no description.

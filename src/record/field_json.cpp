@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "record/field_desc.h"
+#include "record/field_read.h"
 
 namespace {
 
@@ -165,11 +166,15 @@ int visit(void *context, const AstField *f) {
 
 }  // namespace
 
-extern "C" KOVREL_API size_t ast_dataitem_get_fields_json(char *buffer, size_t size, const AstDataItem *item) {
+namespace {
+
+// Writes the object for one walk; 0 and the empty text when the walk did not
+// finish.
+template <typename Walk>
+size_t write_object(char *buffer, size_t size, Walk walk) {
     JsonState s{JsonOut(buffer, size)};
     s.out.put('{');
-    const int result = ast_dataitem_walk_fields(item, visit, &s);
-    if (result != AST_FIELDS_DONE) {
+    if (walk(&s) != AST_FIELDS_DONE) {
         if (buffer && size > 0) buffer[0] = '\0';
         return 0;
     }
@@ -181,3 +186,25 @@ extern "C" KOVREL_API size_t ast_dataitem_get_fields_json(char *buffer, size_t s
     s.out.put('}');
     return s.out.finish();
 }
+
+}  // namespace
+
+namespace kovrel::fields {
+
+size_t write_json(char *buffer, size_t size, const FieldDesc &d, const void *value) {
+    return write_object(buffer, size, [&](JsonState *s) { return walk_value(d, value, visit, s); });
+}
+
+}  // namespace kovrel::fields
+
+extern "C" {
+
+KOVREL_API size_t ast_dataitem_get_fields_json(char *buffer, size_t size, const AstDataItem *item) {
+    return write_object(buffer, size, [&](JsonState *s) { return ast_dataitem_walk_fields(item, visit, s); });
+}
+
+KOVREL_API size_t ast_datavalue_get_fields_json(char *buffer, size_t size, const AstDataItemValue *value) {
+    return write_object(buffer, size, [&](JsonState *s) { return ast_datavalue_walk_fields(value, visit, s); });
+}
+
+}  // extern "C"

@@ -95,5 +95,11 @@ inline void write_integer(const Member &m, void *base, int64_t value) {
 
 // Runs a walk of d over value (field_walk.cpp).
 int walk_value(const FieldDesc &d, const void *value, AstFieldVisitor visitor, void *context);
+// Writes the JSON object of the structure at value (field_json.cpp); the
+// length it needs, 0 when the walk did not finish.
+size_t write_json(char *buffer, size_t size, const FieldDesc &d, const void *value);
+// Sets the field at path ("inner.fl") of the structure at storage
+// (field_set.cpp); an AstFieldSetResult.
+int set_field(const FieldDesc &d, void *storage, const char *path, const AstField &value);
 
 }  // namespace kovrel::fields

@@ -109,10 +109,10 @@ int set_value(const FieldRow &row, void *base, const AstField &v) {
 
 }  // namespace
 
-extern "C" KOVREL_API int ast_dataitem_fields_set(void *storage, size_t size, AstItemId id, const char *path,
-                                                  const AstField *value) {
-    const FieldDesc *d = find_fields(id);
-    if (!d || !storage || size < d->size || !path || !value) return AST_FIELD_SET_UNKNOWN;
+namespace kovrel::fields {
+
+int set_field(const FieldDesc &desc, void *storage, const char *path, const AstField &value) {
+    const FieldDesc *d = &desc;
     void *base = storage;
     // Presence flags of the groups on the way, set only when the value is.
     const FieldRow *groups[kMaxDepth];
@@ -124,7 +124,7 @@ extern "C" KOVREL_API int ast_dataitem_fields_set(void *storage, size_t size, As
         const FieldRow *row = find_row(*d, path, n);
         if (!row) return AST_FIELD_SET_UNKNOWN;
         if (!dot) {
-            const int r = set_value(*row, base, *value);
+            const int r = set_value(*row, base, value);
             if (r != AST_FIELD_SET_OK) return r;
             if (row->present.store != Store::None) write_integer(row->present, base, 1);
             for (uint32_t i = 0; i < group_count; ++i)
@@ -142,4 +142,13 @@ extern "C" KOVREL_API int ast_dataitem_fields_set(void *storage, size_t size, As
         d = row->nested;
         path = dot + 1;
     }
+}
+
+}  // namespace kovrel::fields
+
+extern "C" KOVREL_API int ast_dataitem_fields_set(void *storage, size_t size, AstItemId id, const char *path,
+                                                  const AstField *value) {
+    const FieldDesc *d = find_fields(id);
+    if (!d || !storage || size < d->size || !path || !value) return AST_FIELD_SET_UNKNOWN;
+    return set_field(*d, storage, path, *value);
 }

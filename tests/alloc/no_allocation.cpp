@@ -119,6 +119,15 @@ size_t exercise(const std::vector<uint8_t> &s) {
                     AstDataItem written;
                     ast_dataitem_encode(&written, g_encoded, sizeof g_encoded, &value);
                 }
+                // Named fields: the walk, the JSON, and a structure filled by name.
+                ast_dataitem_get_fields_json(g_text, sizeof g_text, &item);
+                ast_dataitem_walk_fields(&item, [](void *, const AstField *) { return 1; }, nullptr);
+                if (ast_dataitem_fields_init(g_storage, sizeof g_storage, item.id) == 1) {
+                    AstField one{};
+                    one.kind = AST_FIELD_UNSIGNED;
+                    one.u = 1;
+                    ast_dataitem_fields_set(g_storage, sizeof g_storage, item.id, "sac", &one);
+                }
             }
             ast_datarecord_get_detail_html(g_text, sizeof g_text, &record);
             AstDataSourceIdentifier sacsic;
