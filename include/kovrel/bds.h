@@ -19,7 +19,10 @@
 
 KOVREL_BEGIN_DECLS
 
-/** Register 0,5: extended squitter airborne position. */
+/**
+ * Register 0,5: extended squitter airborne position.
+ * Named fields (fields.h): tc, gnss, ss, saf, alt (ft), t, f, lat_cpr, lon_cpr.
+ */
 typedef struct AstBds05 {
     uint8_t valid;                /**< 1 when decoded (type code 9-18 or 20-22) */
     uint32_t type_code;           /**< format type code; kept even when the code is refused */
@@ -33,7 +36,10 @@ typedef struct AstBds05 {
     uint32_t cpr_longitude;       /**< 17-bit CPR encoded longitude */
 } AstBds05;
 
-/** Register 0,8: extended squitter aircraft identification and category. */
+/**
+ * Register 0,8: extended squitter aircraft identification and category.
+ * Named fields (fields.h): tc, ca, acid.
+ */
 typedef struct AstBds08 {
     uint8_t valid;      /**< 1 when decoded */
     uint32_t type_code; /**< format type code: 4 set A, 3 set B, 2 set C, 1 set D */
@@ -41,7 +47,10 @@ typedef struct AstBds08 {
     char chars[9];      /**< eight identification characters and a NUL */
 } AstBds08;
 
-/** Register 0,9: extended squitter airborne velocity. */
+/**
+ * Register 0,9: extended squitter airborne velocity.
+ * Named fields (fields.h): tc, st, ic, nac, dew, vew, vns (kt), vrsrc, svr, vr (ft/min), sdif, dalt (ft).
+ */
 typedef struct AstBds09 {
     uint8_t valid;                /**< 1 when decoded (type code 19, subtype 1-4) */
     uint32_t type_code;           /**< format type code (19) */
@@ -62,7 +71,10 @@ typedef struct AstBds09 {
     int32_t height_diff;          /**< ft, magnitude (the direction is in the sign flag) */
 } AstBds09;
 
-/** Register 1,0: data link capability report. */
+/**
+ * Register 1,0: data link capability report.
+ * Named fields (fields.h): cf, occ, snv, epi, ssc, uelm, delm, aic, scs, sic, gicb.
+ */
 typedef struct AstBds10 {
     uint8_t valid;                      /**< 1 when decoded */
     uint8_t continuation;               /**< continuation flag */
@@ -78,13 +90,19 @@ typedef struct AstBds10 {
     uint8_t gicb_capability;            /**< common usage GICB capability report */
 } AstBds10;
 
-/** Register 2,0: aircraft identification (first MB octet 0x20). */
+/**
+ * Register 2,0: aircraft identification (first MB octet 0x20).
+ * Named fields (fields.h): acid.
+ */
 typedef struct AstBds20 {
     uint8_t valid; /**< 1 when decoded */
     char chars[9]; /**< eight identification characters and a NUL */
 } AstBds20;
 
-/** Register 3,0: ACAS active resolution advisory. */
+/**
+ * Register 3,0: ACAS active resolution advisory.
+ * Named fields (fields.h): ara, rac, rat, mte, tti, tid.
+ */
 typedef struct AstBds30 {
     uint8_t valid;           /**< 1 when decoded */
     uint8_t ara_present;     /**< some active resolution advisory bit is set */
@@ -95,7 +113,10 @@ typedef struct AstBds30 {
     uint8_t tid[3];          /**< threat identity, 24 bits in wire order (threat type 1 only) */
 } AstBds30;
 
-/** Register 4,0: selected vertical intention. */
+/**
+ * Register 4,0: selected vertical intention.
+ * Named fields (fields.h): mcp_alt, fms_alt (ft), bps (hPa), vnav, alt_hold, app, tars; each only with its status bit.
+ */
 typedef struct AstBds40 {
     uint8_t valid;                     /**< 1 when decoded */
     uint8_t mcp_alt_status;            /**< MCP/FCU selected altitude available */
@@ -112,7 +133,10 @@ typedef struct AstBds40 {
     uint32_t target_alt_source;        /**< 0 unknown, 1 aircraft altitude, 2 MCP/FCU, 3 FMS */
 } AstBds40;
 
-/** Register 5,0: track and turn report. */
+/**
+ * Register 5,0: track and turn report.
+ * Named fields (fields.h): ran, tta (deg), gs (kt), tar (deg/s), tas (kt); each only with its status bit.
+ */
 typedef struct AstBds50 {
     uint8_t valid;                /**< 1 when decoded */
     uint8_t roll_angle_status;    /**< roll angle available */
@@ -127,7 +151,10 @@ typedef struct AstBds50 {
     uint32_t true_airspeed;       /**< knots */
 } AstBds50;
 
-/** Register 6,0: heading and speed report. */
+/**
+ * Register 6,0: heading and speed report.
+ * Named fields (fields.h): mhg (deg), ias (kt), mach, bvr, ivv (ft/min); each only with its status bit.
+ */
 typedef struct AstBds60 {
     uint8_t valid;                     /**< 1 when decoded */
     uint8_t magnetic_heading_status;   /**< magnetic heading available */

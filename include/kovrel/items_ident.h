@@ -27,7 +27,10 @@ KOVREL_BEGIN_DECLS
 
 /* ---- Message type (1 octet) --------------------------------------------- */
 
-/** Message type octet; its meaning depends on the category. */
+/**
+ * Message type octet; its meaning depends on the category.
+ * Named fields (fields.h): mt.
+ */
 typedef struct AstMessageType {
     uint32_t valid;
     uint32_t value;
@@ -47,7 +50,10 @@ KOVREL_API void ast_dataitem_message_type_encode(AstDataItem *out, uint8_t *buff
 
 /* ---- Data source identifier (2 octets) ---------------------------------- */
 
-/** Data source identifier: System Area Code and System Identification Code. */
+/**
+ * Data source identifier: System Area Code and System Identification Code.
+ * Named fields (fields.h): sac, sic.
+ */
 typedef struct AstDataSourceIdentifier {
     uint32_t valid;
     uint32_t sac;
@@ -81,7 +87,10 @@ KOVREL_API void ast_dataitem_data_source_identifier_get_detail_html(char *buffer
 
 /* ---- Service identification (1 octet) ----------------------------------- */
 
-/** Service identification octet. */
+/**
+ * Service identification octet.
+ * Named fields (fields.h): sid.
+ */
 typedef struct AstServiceId {
     uint32_t valid;
     uint32_t value;
@@ -102,7 +111,10 @@ KOVREL_API void ast_dataitem_service_id_get_summary(char *buffer, size_t size, c
 
 /* ---- Sector number (1 octet, LSB 360/256 degrees) ----------------------- */
 
-/** Antenna sector number. */
+/**
+ * Antenna sector number.
+ * Named fields (fields.h): sector (deg).
+ */
 typedef struct AstSectorNumber {
     uint32_t valid;
     uint32_t raw;
@@ -129,7 +141,10 @@ KOVREL_API void ast_dataitem_sector_number_get_detail_html(char *buffer, size_t 
 
 /* ---- Time of day (3 octets, LSB 1/128 s) -------------------------------- */
 
-/** Time of day: 24-bit count of 1/128 s since midnight, and its parts. */
+/**
+ * Time of day: 24-bit count of 1/128 s since midnight, and its parts.
+ * Named fields (fields.h): tod (s since midnight).
+ */
 typedef struct AstTimeOfDay {
     uint32_t valid;
     uint32_t raw;
@@ -162,7 +177,10 @@ KOVREL_API void ast_dataitem_time_of_day_get_detail_html(char *buffer, size_t si
 
 /* ---- Time of day, high precision (4 octets) ----------------------------- */
 
-/** Fraction of the second with its full-second indication. */
+/**
+ * Fraction of the second with its full-second indication.
+ * Named fields (fields.h): fsi, tomr (s).
+ */
 typedef struct AstTimeOfDayHigh {
     uint32_t valid;
     int32_t fsi;     /**< 0, +1 or -1 (the reserved code reads as 0) */
@@ -186,6 +204,7 @@ KOVREL_API void ast_dataitem_time_of_day_high_get_detail_html(char *buffer, size
 /**
  * Track number. Items 1161, 4030, 4035, 15161 and 62040 carry 16 bits;
  * every other item carries 12 bits under 4 spare bits, and twelve_bit is 1.
+ * Named fields (fields.h): trn.
  */
 typedef struct AstTrackNumber {
     uint32_t valid;
@@ -210,7 +229,10 @@ KOVREL_API void ast_dataitem_track_number_get_summary(char *buffer, size_t size,
 
 /* ---- Antenna rotation period (2 octets, LSB 1/128 s) -------------------- */
 
-/** Antenna rotation period. */
+/**
+ * Antenna rotation period.
+ * Named fields (fields.h): arp (s).
+ */
 typedef struct AstAntennaRotationPeriod {
     uint32_t valid;
     uint32_t raw;

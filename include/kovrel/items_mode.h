@@ -28,7 +28,10 @@ KOVREL_BEGIN_DECLS
  * 12-bit code, digits A B C D of three bits each (print it with "%04o").
  */
 
-/** Mode 3/A (or Mode 2) code: flags and the 12-bit code (print it in octal). */
+/**
+ * Mode 3/A (or Mode 2) code: flags and the 12-bit code (print it in octal).
+ * Named fields (fields.h): v, g, l, mode3a (octal); ch for l in I062/060, mode2 for mode3a in Mode 2 items.
+ */
 typedef struct AstMode3aCode {
     uint32_t valid;
     uint8_t v;       /**< code not validated */
@@ -68,7 +71,10 @@ KOVREL_API void ast_dataitem_mode_3a_code_get_detail_html(char *buffer, size_t s
  * a set flag marks a reply pulse of low quality.
  */
 
-/** Quality flags of the twelve Mode 3/A reply pulses (1 = low quality). */
+/**
+ * Quality flags of the twelve Mode 3/A reply pulses (1 = low quality).
+ * Named fields (fields.h): qa4, qa2, qa1, qb4, qb2, qb1, qc4, qc2, qc1, qd4, qd2, qd1.
+ */
 typedef struct AstMode3aConfidence {
     uint32_t valid;
     uint8_t qa4, qa2, qa1;
@@ -99,7 +105,10 @@ KOVREL_API void ast_dataitem_mode_3a_confidence_get_detail_html(char *buffer, si
  * quarters of a flight level.
  */
 
-/** Mode C code as a flight level. */
+/**
+ * Mode C code as a flight level.
+ * Named fields (fields.h): v (the wire bit, 1 when not validated), g, fl (FL).
+ */
 typedef struct AstModeCCode {
     uint32_t valid;
     uint8_t validated;    /**< 1 when the V bit is 0 */
@@ -133,7 +142,10 @@ KOVREL_API void ast_dataitem_mode_c_code_get_detail_html(char *buffer, size_t si
  * 4-1 QC1 QA1 QC2 QA2; octet 4 QC4 QA4 QB1 QD1 QB2 QD2 QB4 QD4.
  */
 
-/** Mode C reply pulses and their quality flags. */
+/**
+ * Mode C reply pulses and their quality flags.
+ * Named fields (fields.h): v, g, modec (octal), then qc1 ... qd4 in wire order.
+ */
 typedef struct AstModeCConfidence {
     uint32_t valid;
     uint8_t validated; /**< 1 when the V bit is 0 */
@@ -158,7 +170,10 @@ KOVREL_API void ast_dataitem_mode_c_confidence_get_detail_html(char *buffer, siz
 
 /* ---- Target address, 3 octets: the Mode S 24-bit address ------------------ */
 
-/** Mode S 24-bit target address. */
+/**
+ * Mode S 24-bit target address.
+ * Named fields (fields.h): aa (six hexadecimal digits).
+ */
 typedef struct AstTargetAddress {
     uint32_t valid;
     uint32_t address;
@@ -194,7 +209,10 @@ KOVREL_API void ast_dataitem_target_address_get_detail_html(char *buffer, size_t
  * the ICAO character set (see ast_icao_to_ansi).
  */
 
-/** Aircraft identification: eight characters and a NUL. */
+/**
+ * Aircraft identification: eight characters and a NUL.
+ * Named fields (fields.h): acid.
+ */
 typedef struct AstAircraftId {
     uint32_t valid;
     char chars[9]; /**< a code without a character ends the text early */
@@ -224,7 +242,10 @@ KOVREL_API void ast_dataitem_aircraft_id_get_detail_html(char *buffer, size_t si
  * six-bit characters as in the aircraft identification.
  */
 
-/** Target identification with its source indicator. */
+/**
+ * Target identification with its source indicator.
+ * Named fields (fields.h): sti, tid.
+ */
 typedef struct AstTargetId {
     uint32_t valid;
     uint32_t sti;  /**< 2 bits */
@@ -259,7 +280,11 @@ KOVREL_API void ast_dataitem_target_id_get_detail_html(char *buffer, size_t size
 /** Most registers one Mode S MB item may carry. */
 #define AST_MODES_MB_MAX_BDS 8
 
-/** Mode S MB data: the register spans of ast_bds_decode, in item order. */
+/**
+ * Mode S MB data: the register spans of ast_bds_decode, in item order.
+ * Named fields (fields.h): rep, then per register a group "bds40" ("bds40_2" when repeated)
+ * holding bds ("4,0") and the register's fields, or mb (its 7 octets) when not decoded.
+ */
 typedef struct AstModesMb {
     uint32_t valid;
     uint32_t rep;
@@ -297,7 +322,10 @@ KOVREL_API void ast_dataitem_binary_data_get_summary(char *buffer, size_t size, 
  * number (identifier mod 1000) is 998, 999 and 997 respectively.
  */
 
-/** Contents of an explicit-length field (the octets after the length octet). */
+/**
+ * Contents of an explicit-length field (the octets after the length octet).
+ * Named fields (fields.h): data (the octets after the length octet).
+ */
 typedef struct AstExplicitField {
     uint32_t valid;
     const uint8_t *data; /**< just after the length octet, NULL when there is nothing more */

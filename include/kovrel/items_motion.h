@@ -25,7 +25,10 @@ KOVREL_BEGIN_DECLS
  * LSB and value. Positive latitudes are north, positive longitudes east.
  */
 
-/** WGS-84 position in 6 octets: two 24-bit fields, LSB 180/2^23 degrees. */
+/**
+ * WGS-84 position in 6 octets: two 24-bit fields, LSB 180/2^23 degrees.
+ * Named fields (fields.h): lat, lon (deg).
+ */
 typedef struct AstPositionWgs84Low {
     uint32_t valid;
     int32_t lat_raw;
@@ -40,6 +43,7 @@ typedef struct AstPositionWgs84Low {
  * WGS-84 position in 8 octets: two 32-bit fields. The LSB depends on the
  * item: 180/2^31 degrees for I010/041 and I016/400, 180/2^30 for I019/600
  * and I021/131, 180/2^25 for every other item.
+ * Named fields (fields.h): lat, lon (deg).
  */
 typedef struct AstPositionWgs84 {
     uint32_t valid;
@@ -110,7 +114,10 @@ KOVREL_API void ast_dataitem_position_wgs84_get_detail_html(char *buffer, size_t
 
 /* ---- Cartesian position and velocity ---------------------------------- */
 
-/** Cartesian position, metres: two 24-bit fields, LSB 0.5 m. */
+/**
+ * Cartesian position, metres: two 24-bit fields, LSB 0.5 m.
+ * Named fields (fields.h): x, y (m).
+ */
 typedef struct AstPositionCartesian {
     uint32_t valid;
     int32_t x_raw;
@@ -128,7 +135,10 @@ KOVREL_API void ast_dataitem_position_cartesian_decode(AstPositionCartesian *out
 /** "X:%.1f Y:%.1f LSB:M" in metres; empty text on failure. */
 KOVREL_API void ast_dataitem_position_cartesian_get_summary(char *buffer, size_t size, const AstDataItem *item);
 
-/** Cartesian velocity, metres per second: two 16-bit fields, LSB 0.25 m/s. */
+/**
+ * Cartesian velocity, metres per second: two 16-bit fields, LSB 0.25 m/s.
+ * Named fields (fields.h): vx, vy (m/s).
+ */
 typedef struct AstVelocityCartesian {
     uint32_t valid;
     int32_t vx_raw;
@@ -151,6 +161,7 @@ KOVREL_API void ast_dataitem_velocity_cartesian_get_summary(char *buffer, size_t
 /**
  * Ground speed in knots (16-bit unsigned, LSB 2^-14 NM/s = 0.2197265625 kt)
  * and heading in degrees (16-bit unsigned, LSB 360/2^16).
+ * Named fields (fields.h): gsp (kt), hdg (deg).
  */
 typedef struct AstVelocityPolar {
     uint32_t valid;
@@ -183,7 +194,10 @@ KOVREL_API void ast_dataitem_velocity_polar_get_detail_html(char *buffer, size_t
 
 /* ---- Height ------------------------------------------------------------- */
 
-/** Height in feet: 16-bit two's complement, LSB 6.25 ft. */
+/**
+ * Height in feet: 16-bit two's complement, LSB 6.25 ft.
+ * Named fields (fields.h): height (ft).
+ */
 typedef struct AstHeight {
     uint32_t valid;
     int32_t raw;
@@ -206,6 +220,7 @@ KOVREL_API void ast_dataitem_height_get_detail_html(char *buffer, size_t size, c
  * Vertical rate in feet per minute, LSB 6.25 ft/min. With the range-exceeded
  * bit (bit 16) the rate is a 15-bit two's complement field; without it a
  * 16-bit one and re stays 0.
+ * Named fields (fields.h): re, vr (ft/min); vr alone for the rate without range-exceeded bit.
  */
 typedef struct AstVerticalRate {
     uint32_t valid;

@@ -1,4 +1,5 @@
 // Aircraft identification: eight six-bit ICAO characters in 6 octets.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/items_mode.h"
 
@@ -53,3 +54,16 @@ KOVREL_API void ast_dataitem_aircraft_id_get_detail_html(char *buffer, size_t si
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstAircraftId;
+constexpr FieldRow kIdentRows[] = {
+    text("acid", KOVREL_MEMBER(T, chars)),
+};
+}  // namespace
+
+constinit const FieldDesc kAircraftId = describe<T, init_valid<T, ast_dataitem_aircraft_id_init>>(kIdentRows);
+
+}  // namespace kovrel::fields

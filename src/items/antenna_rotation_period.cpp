@@ -1,6 +1,7 @@
 // Antenna rotation period: 16-bit unsigned count of 1/128 s.
 #include <cmath>
 
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_ident.h"
@@ -72,3 +73,19 @@ KOVREL_API void ast_dataitem_antenna_rotation_period_get_detail_html(char *buffe
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstAntennaRotationPeriod;
+// Over the raw count: the encoder writes it whenever the period is 0, which
+// the defaults give.
+constexpr FieldRow kRotationRows[] = {
+    scaled("arp", KOVREL_MEMBER(T, raw), kLsb, "s").width(16),
+};
+}  // namespace
+
+constinit const FieldDesc kAntennaRotationPeriod =
+    describe<T, init_valid<T, ast_dataitem_antenna_rotation_period_init>>(kRotationRows);
+
+}  // namespace kovrel::fields

@@ -1,5 +1,6 @@
 // Register 0,5: extended squitter airborne position.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
 
 namespace {
@@ -57,3 +58,24 @@ KOVREL_API void ast_bds_05_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstBds05;
+constexpr FieldRow kRows[] = {
+    integer("tc", KOVREL_MEMBER(T, type_code)).width(5),
+    flag("gnss", KOVREL_MEMBER(T, gnss_height)),
+    integer("ss", KOVREL_MEMBER(T, surveillance_status)).width(2),
+    flag("saf", KOVREL_MEMBER(T, single_antenna)),
+    integer("alt", KOVREL_MEMBER(T, altitude), "ft"),
+    flag("t", KOVREL_MEMBER(T, time_flag)),
+    flag("f", KOVREL_MEMBER(T, cpr_format)),
+    integer("lat_cpr", KOVREL_MEMBER(T, cpr_latitude)).width(17),
+    integer("lon_cpr", KOVREL_MEMBER(T, cpr_longitude)).width(17),
+};
+}  // namespace
+
+constinit const FieldDesc kBds05 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

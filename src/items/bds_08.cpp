@@ -1,5 +1,6 @@
 // Register 0,8: extended squitter aircraft identification and category.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
 #include "kovrel/enums.h"
 
@@ -67,3 +68,18 @@ KOVREL_API void ast_bds_08_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstBds08;
+constexpr FieldRow kRows[] = {
+    integer("tc", KOVREL_MEMBER(T, type_code)).width(5),
+    integer("ca", KOVREL_MEMBER(T, category)).width(2),
+    text("acid", KOVREL_MEMBER(T, chars)),
+};
+}  // namespace
+
+constinit const FieldDesc kBds08 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

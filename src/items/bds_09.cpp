@@ -1,5 +1,6 @@
 // Register 0,9: extended squitter airborne velocity.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
 
 namespace {
@@ -79,3 +80,29 @@ KOVREL_API void ast_bds_09_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+// Speeds, rates and their directions exist only when the register gives
+// them; the north-south direction is not decoded, so it is not a field.
+using T = AstBds09;
+constexpr FieldRow kRows[] = {
+    integer("tc", KOVREL_MEMBER(T, type_code)).width(5),
+    integer("st", KOVREL_MEMBER(T, subtype)).width(3),
+    flag("ic", KOVREL_MEMBER(T, intent_change)),
+    integer("nac", KOVREL_MEMBER(T, nac)).width(3),
+    flag("dew", KOVREL_MEMBER(T, ew_direction)).when(KOVREL_MEMBER(T, velocity_present)),
+    integer("vew", KOVREL_MEMBER(T, ew_speed), "kt").when(KOVREL_MEMBER(T, velocity_present)),
+    integer("vns", KOVREL_MEMBER(T, ns_speed), "kt").when(KOVREL_MEMBER(T, velocity_present)),
+    flag("vrsrc", KOVREL_MEMBER(T, vertical_rate_source)),
+    flag("svr", KOVREL_MEMBER(T, vertical_rate_sign)).when(KOVREL_MEMBER(T, vertical_rate_present)),
+    integer("vr", KOVREL_MEMBER(T, vertical_rate), "ft/min").when(KOVREL_MEMBER(T, vertical_rate_present)),
+    flag("sdif", KOVREL_MEMBER(T, height_diff_sign)).when(KOVREL_MEMBER(T, height_diff_present)),
+    integer("dalt", KOVREL_MEMBER(T, height_diff), "ft").when(KOVREL_MEMBER(T, height_diff_present)),
+};
+}  // namespace
+
+constinit const FieldDesc kBds09 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

@@ -1,5 +1,6 @@
 // Register 1,0: data link capability report.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
 
 namespace {
@@ -79,3 +80,26 @@ KOVREL_API void ast_bds_10_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstBds10;
+constexpr FieldRow kRows[] = {
+    flag("cf", KOVREL_MEMBER(T, continuation)),
+    flag("occ", KOVREL_MEMBER(T, overlay_command_capability)),
+    integer("snv", KOVREL_MEMBER(T, subnetwork_version)).width(7),
+    flag("epi", KOVREL_MEMBER(T, enhanced_protocol)),
+    flag("ssc", KOVREL_MEMBER(T, specific_services)),
+    integer("uelm", KOVREL_MEMBER(T, uelm_throughput)).width(3),
+    integer("delm", KOVREL_MEMBER(T, delm_throughput)).width(4),
+    flag("aic", KOVREL_MEMBER(T, aircraft_ident_capability)),
+    flag("scs", KOVREL_MEMBER(T, squitter_capability)),
+    flag("sic", KOVREL_MEMBER(T, sic_capability)),
+    flag("gicb", KOVREL_MEMBER(T, gicb_capability)),
+};
+}  // namespace
+
+constinit const FieldDesc kBds10 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

@@ -1,5 +1,6 @@
 // Register 2,0: aircraft identification.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
 
 namespace {
@@ -31,3 +32,16 @@ KOVREL_API void ast_bds_20_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstBds20;
+constexpr FieldRow kRows[] = {
+    text("acid", KOVREL_MEMBER(T, chars)),
+};
+}  // namespace
+
+constinit const FieldDesc kBds20 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

@@ -1,6 +1,8 @@
 // Register 3,0: ACAS active resolution advisory.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
+#include "kovrel/enums.h"
 
 namespace {
 
@@ -64,3 +66,23 @@ KOVREL_API void ast_bds_30_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+// ARA and RAC say whether any of their bits is set; the threat identity is
+// the threat's Mode S address (all zero unless the threat type is 1).
+using T = AstBds30;
+constexpr FieldRow kRows[] = {
+    flag("ara", KOVREL_MEMBER(T, ara_present)),
+    flag("rac", KOVREL_MEMBER(T, rac_present)),
+    flag("rat", KOVREL_MEMBER(T, ra_terminated)),
+    flag("mte", KOVREL_MEMBER(T, multiple_threat)),
+    enumeration("tti", KOVREL_MEMBER(T, threat_type), ast_threat_type_to_str).width(2),
+    octets("tid", KOVREL_MEMBER(T, tid)),
+};
+}  // namespace
+
+constinit const FieldDesc kBds30 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

@@ -1,5 +1,6 @@
 // Register 4,0: selected vertical intention.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
 #include "kovrel/enums.h"
 
@@ -47,3 +48,27 @@ KOVREL_API void ast_bds_40_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+const char *altitude_source_name(uint32_t code) { return ast_selected_altitude_source_to_str(code, 0); }
+
+// Each value exists only when its status bit is set.
+using T = AstBds40;
+constexpr FieldRow kRows[] = {
+    integer("mcp_alt", KOVREL_MEMBER(T, mcp_alt), "ft").when(KOVREL_MEMBER(T, mcp_alt_status)),
+    integer("fms_alt", KOVREL_MEMBER(T, fms_alt), "ft").when(KOVREL_MEMBER(T, fms_alt_status)),
+    real("bps", KOVREL_MEMBER(T, baro_setting), "hPa").when(KOVREL_MEMBER(T, baro_setting_status)),
+    flag("vnav", KOVREL_MEMBER(T, vnav_mode)).when(KOVREL_MEMBER(T, mode_status)),
+    flag("alt_hold", KOVREL_MEMBER(T, alt_hold_mode)).when(KOVREL_MEMBER(T, mode_status)),
+    flag("app", KOVREL_MEMBER(T, approach_mode)).when(KOVREL_MEMBER(T, mode_status)),
+    enumeration("tars", KOVREL_MEMBER(T, target_alt_source), altitude_source_name)
+        .width(2)
+        .when(KOVREL_MEMBER(T, target_alt_source_status)),
+};
+}  // namespace
+
+constinit const FieldDesc kBds40 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

@@ -4,6 +4,7 @@
 // two's complement numbers; existing consumers depend on these values, so
 // the reading is kept.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
 
 namespace {
@@ -52,3 +53,21 @@ KOVREL_API void ast_bds_50_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+// Each value exists only when its status bit is set.
+using T = AstBds50;
+constexpr FieldRow kRows[] = {
+    real("ran", KOVREL_MEMBER(T, roll_angle), "deg").when(KOVREL_MEMBER(T, roll_angle_status)),
+    real("tta", KOVREL_MEMBER(T, true_track), "deg").when(KOVREL_MEMBER(T, true_track_status)),
+    real("gs", KOVREL_MEMBER(T, ground_speed), "kt").when(KOVREL_MEMBER(T, ground_speed_status)),
+    real("tar", KOVREL_MEMBER(T, track_rate), "deg/s").when(KOVREL_MEMBER(T, track_rate_status)),
+    integer("tas", KOVREL_MEMBER(T, true_airspeed), "kt").when(KOVREL_MEMBER(T, true_airspeed_status)),
+};
+}  // namespace
+
+constinit const FieldDesc kBds50 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

@@ -4,6 +4,7 @@
 // two's complement numbers; existing consumers depend on these values, so
 // the reading is kept.
 #include "items/bds_support.h"
+#include "items/item_fields.h"
 #include "kovrel/bds.h"
 
 namespace {
@@ -55,3 +56,21 @@ KOVREL_API void ast_bds_60_get_detail_html(char *buffer, size_t size, const AstD
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+// Each value exists only when its status bit is set.
+using T = AstBds60;
+constexpr FieldRow kRows[] = {
+    real("mhg", KOVREL_MEMBER(T, magnetic_heading), "deg").when(KOVREL_MEMBER(T, magnetic_heading_status)),
+    integer("ias", KOVREL_MEMBER(T, indicated_airspeed), "kt").when(KOVREL_MEMBER(T, indicated_airspeed_status)),
+    real("mach", KOVREL_MEMBER(T, mach)).when(KOVREL_MEMBER(T, mach_status)),
+    real("bvr", KOVREL_MEMBER(T, baro_alt_rate), "ft/min").when(KOVREL_MEMBER(T, baro_alt_rate_status)),
+    real("ivv", KOVREL_MEMBER(T, inertial_vv), "ft/min").when(KOVREL_MEMBER(T, inertial_vv_status)),
+};
+}  // namespace
+
+constinit const FieldDesc kBds60 = describe<T>(kRows);
+
+}  // namespace kovrel::fields

@@ -155,6 +155,7 @@ constexpr FieldRow kSourceRows[] = {
 };
 }  // namespace
 
-constinit const FieldDesc kDataSourceIdentifier = describe<T, ast_dataitem_data_source_identifier_init>(kSourceRows);
+constinit const FieldDesc kDataSourceIdentifier =
+    describe<T, init_valid<T, ast_dataitem_data_source_identifier_init>>(kSourceRows);
 
 }  // namespace kovrel::fields

@@ -1,6 +1,7 @@
 // Reserved expansion, special purpose and random field sequencing fields:
 // items whose first octet is their own length. Their contents belong to
 // agreements outside the category, so only the octets are handed out.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/items_mode.h"
 
@@ -66,3 +67,18 @@ KOVREL_API void ast_dataitem_random_field_sequencing_get_summary(char *buffer, s
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstExplicitField;
+// The contents after the length octet; what they mean is agreed outside
+// the category.
+constexpr FieldRow kExplicitRows[] = {
+    octets_at("data", KOVREL_MEMBER(T, data), KOVREL_MEMBER(T, length)),
+};
+}  // namespace
+
+constinit const FieldDesc kExplicitField = describe<T, init_valid<T, init>>(kExplicitRows);
+
+}  // namespace kovrel::fields

@@ -1,4 +1,5 @@
 // Height: one 16-bit two's complement field, LSB 6.25 ft.
+#include "items/item_fields.h"
 #include "items/motion_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_motion.h"
@@ -45,3 +46,16 @@ KOVREL_API void ast_dataitem_height_get_detail_html(char *buffer, size_t size, c
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstHeight;
+constexpr FieldRow kHeightRows[] = {
+    scaled("height", KOVREL_MEMBER(T, raw), kLsbFeet, "ft").width(16),
+};
+}  // namespace
+
+constinit const FieldDesc kHeight = describe<T, init_valid<T, ast_dataitem_height_init>>(kHeightRows);
+
+}  // namespace kovrel::fields

@@ -8,6 +8,16 @@
 
 namespace kovrel::fields {
 
+// The defaults of T (its init) marked valid: a structure filled by field
+// name is filled to be encoded, and the encoders take only structures whose
+// valid flag is 1. Descriptions of item structures use it as their init:
+//   describe<T, init_valid<T, ast_dataitem_xxx_init>>(rows)
+template <typename T, auto Init>
+void init_valid(T *out) {
+    Init(out);
+    out->valid = 1;
+}
+
 // Identification and time (items_ident.h)
 extern const FieldDesc kMessageType;
 extern const FieldDesc kDataSourceIdentifier;
@@ -26,9 +36,14 @@ extern const FieldDesc kVelocityCartesian;
 extern const FieldDesc kVelocityPolar;
 extern const FieldDesc kHeight;
 extern const FieldDesc kVerticalRate;
+extern const FieldDesc kVerticalRateNoRe;  // the 16-bit rate without range-exceeded bit
 
 // Mode codes and Mode S (items_mode.h)
 extern const FieldDesc kMode3aCode;
+// The same structure under the names of other items: bit 6 read as "code
+// changed" (I062/060), and the Mode 2 code.
+extern const FieldDesc kMode3aCodeChanged;
+extern const FieldDesc kMode2Code;
 extern const FieldDesc kMode3aConfidence;
 extern const FieldDesc kModeCCode;
 extern const FieldDesc kModeCConfidence;

@@ -1,5 +1,6 @@
 // Message type: one octet whose meaning each category defines. Categories
 // print it through their own enumeration names, so there is no summary here.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/items_ident.h"
 
@@ -35,3 +36,16 @@ KOVREL_API void ast_dataitem_message_type_encode(AstDataItem *out, uint8_t *buff
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstMessageType;
+constexpr FieldRow kMessageTypeRows[] = {
+    integer("mt", KOVREL_MEMBER(T, value)).width(8),
+};
+}  // namespace
+
+constinit const FieldDesc kMessageType = describe<T, init_valid<T, ast_dataitem_message_type_init>>(kMessageTypeRows);
+
+}  // namespace kovrel::fields

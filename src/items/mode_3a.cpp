@@ -1,4 +1,5 @@
 // Mode 3/A (and Mode 2) code and the Mode 3/A code confidence.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "items/mode_support.h"
 #include "kovrel/items_mode.h"
@@ -132,3 +133,39 @@ KOVREL_API void ast_dataitem_mode_3a_confidence_get_detail_html(char *buffer, si
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using C = AstMode3aCode;
+constexpr FieldRow kV = flag("v", KOVREL_MEMBER(C, v));
+constexpr FieldRow kG = flag("g", KOVREL_MEMBER(C, g));
+constexpr FieldRow kL = flag("l", KOVREL_MEMBER(C, l));
+constexpr FieldRow kCode3a = integer("mode3a", KOVREL_MEMBER(C, code)).width(12).shown(AST_FIELD_FORMAT_OCTAL4);
+constexpr FieldRow kCode2 = integer("mode2", KOVREL_MEMBER(C, code)).width(12).shown(AST_FIELD_FORMAT_OCTAL4);
+
+// Items whose top four bits are spare (I021/070, I062/120) show the flags
+// too: the decoder reads those bits as flags and the encoder writes them
+// back, so only with the flags does such an item encode as it arrived.
+constexpr FieldRow kMode3aRows[] = {kV, kG, kL, kCode3a};
+constexpr FieldRow kMode2Rows[] = {kV, kG, kL, kCode2};
+// Bit 6 as "code changed": the decoder fills both members alike and the
+// encoder sets the bit for either, so `changed` alone stands for it.
+constexpr FieldRow kChangedRows[] = {kV, kG, flag("ch", KOVREL_MEMBER(C, changed)), kCode3a};
+
+using Q = AstMode3aConfidence;
+constexpr FieldRow kConfidenceRows[] = {
+    flag("qa4", KOVREL_MEMBER(Q, qa4)), flag("qa2", KOVREL_MEMBER(Q, qa2)), flag("qa1", KOVREL_MEMBER(Q, qa1)),
+    flag("qb4", KOVREL_MEMBER(Q, qb4)), flag("qb2", KOVREL_MEMBER(Q, qb2)), flag("qb1", KOVREL_MEMBER(Q, qb1)),
+    flag("qc4", KOVREL_MEMBER(Q, qc4)), flag("qc2", KOVREL_MEMBER(Q, qc2)), flag("qc1", KOVREL_MEMBER(Q, qc1)),
+    flag("qd4", KOVREL_MEMBER(Q, qd4)), flag("qd2", KOVREL_MEMBER(Q, qd2)), flag("qd1", KOVREL_MEMBER(Q, qd1)),
+};
+}  // namespace
+
+constinit const FieldDesc kMode3aCode = describe<C, init_valid<C, ast_dataitem_mode_3a_code_init>>(kMode3aRows);
+constinit const FieldDesc kMode3aCodeChanged = describe<C, init_valid<C, ast_dataitem_mode_3a_code_init>>(kChangedRows);
+constinit const FieldDesc kMode2Code = describe<C, init_valid<C, ast_dataitem_mode_3a_code_init>>(kMode2Rows);
+constinit const FieldDesc kMode3aConfidence =
+    describe<Q, init_valid<Q, ast_dataitem_mode_3a_confidence_init>>(kConfidenceRows);
+
+}  // namespace kovrel::fields

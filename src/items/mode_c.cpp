@@ -2,6 +2,7 @@
 // confidence.
 #include <cstdio>
 
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "items/mode_support.h"
 #include "kovrel/codec.h"
@@ -146,3 +147,34 @@ KOVREL_API void ast_dataitem_mode_c_confidence_get_detail_html(char *buffer, siz
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+// V is shown as on the wire (1: not validated) over the `validated` member.
+using C = AstModeCCode;
+constexpr FieldRow kCodeRows[] = {
+    flag("v", KOVREL_MEMBER(C, validated)).inverted(),
+    flag("g", KOVREL_MEMBER(C, garbled)),
+    scaled("fl", KOVREL_MEMBER(C, flight_level), 0.25, "FL").width(14),
+};
+
+// The reply as the four octal digits the summary prints; the quality flags
+// in their wire order.
+using Q = AstModeCConfidence;
+constexpr FieldRow kConfidenceRows[] = {
+    flag("v", KOVREL_MEMBER(Q, validated)).inverted(),
+    flag("g", KOVREL_MEMBER(Q, garbled)),
+    integer("modec", KOVREL_MEMBER(Q, code)).width(12).shown(AST_FIELD_FORMAT_OCTAL4),
+    flag("qc1", KOVREL_MEMBER(Q, qc1)), flag("qa1", KOVREL_MEMBER(Q, qa1)), flag("qc2", KOVREL_MEMBER(Q, qc2)),
+    flag("qa2", KOVREL_MEMBER(Q, qa2)), flag("qc4", KOVREL_MEMBER(Q, qc4)), flag("qa4", KOVREL_MEMBER(Q, qa4)),
+    flag("qb1", KOVREL_MEMBER(Q, qb1)), flag("qd1", KOVREL_MEMBER(Q, qd1)), flag("qb2", KOVREL_MEMBER(Q, qb2)),
+    flag("qd2", KOVREL_MEMBER(Q, qd2)), flag("qb4", KOVREL_MEMBER(Q, qb4)), flag("qd4", KOVREL_MEMBER(Q, qd4)),
+};
+}  // namespace
+
+constinit const FieldDesc kModeCCode = describe<C, init_valid<C, ast_dataitem_mode_c_code_init>>(kCodeRows);
+constinit const FieldDesc kModeCConfidence =
+    describe<Q, init_valid<Q, ast_dataitem_mode_c_confidence_init>>(kConfidenceRows);
+
+}  // namespace kovrel::fields

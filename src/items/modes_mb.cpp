@@ -1,5 +1,9 @@
 // Mode S MB data: up to eight Comm-B registers, each 7 MB octets followed
 // by its BDS code octet.
+#include <cstdio>
+#include <cstring>
+
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/bds.h"
 #include "kovrel/core.h"
@@ -84,3 +88,88 @@ KOVREL_API void ast_dataitem_modes_mb_get_detail_html(char *buffer, size_t size,
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+
+enum class Walked { No, Yes, Stopped };
+
+// The register's fields through its own description, when it decodes.
+template <typename R, R (*Decode)(const AstDataItem *)>
+Walked walk_as(Walker &w, const FieldDesc &d, const AstDataItem &reg) {
+    const R r = Decode(&reg);
+    if (r.valid != 1) return Walked::No;
+    return w.walk(d, &r) ? Walked::Yes : Walked::Stopped;
+}
+
+Walked walk_decoded(Walker &w, const AstDataItem &reg) {
+    switch (reg.id) {
+    case 0x05: return walk_as<AstBds05, ast_bds_05_decode>(w, kBds05, reg);
+    case 0x08: return walk_as<AstBds08, ast_bds_08_decode>(w, kBds08, reg);
+    case 0x09: return walk_as<AstBds09, ast_bds_09_decode>(w, kBds09, reg);
+    case 0x10: return walk_as<AstBds10, ast_bds_10_decode>(w, kBds10, reg);
+    case 0x20: return walk_as<AstBds20, ast_bds_20_decode>(w, kBds20, reg);
+    case 0x30: return walk_as<AstBds30, ast_bds_30_decode>(w, kBds30, reg);
+    case 0x40: return walk_as<AstBds40, ast_bds_40_decode>(w, kBds40, reg);
+    case 0x50: return walk_as<AstBds50, ast_bds_50_decode>(w, kBds50, reg);
+    case 0x60: return walk_as<AstBds60, ast_bds_60_decode>(w, kBds60, reg);
+    default: return Walked::No;
+    }
+}
+
+// One group per register, named "bds" and the code in two lower-case hex
+// digits ("bds40"), a repeated code numbered from its second use on
+// ("bds40_2"). The group holds the code as "4,0", then the decoded fields,
+// or the 7 MB octets of a register the library does not decode (or that
+// does not decode as its code says).
+bool walk_registers(Walker &w, const FieldRow &, const void *base) {
+    const auto &mb = *static_cast<const AstModesMb *>(base);
+    const uint32_t count = mb.rep < AST_MODES_MB_MAX_BDS ? mb.rep : AST_MODES_MB_MAX_BDS;
+    for (uint32_t i = 0; i < count; ++i) {
+        const AstDataItem &reg = mb.bds[i];
+        unsigned use = 1;
+        for (uint32_t j = 0; j < i; ++j)
+            if (mb.bds[j].id == reg.id) ++use;
+        char name[32];
+        if (use == 1)
+            std::snprintf(name, sizeof name, "bds%02x", static_cast<unsigned>(reg.id));
+        else
+            std::snprintf(name, sizeof name, "bds%02x_%u", static_cast<unsigned>(reg.id), use);
+        if (!w.begin(AST_FIELD_GROUP_BEGIN, name)) return false;
+
+        char code[16] = "";
+        ast_bds_type_to_str_simple(code, sizeof code, reg.id);
+        AstField f{};
+        f.name = "bds";
+        f.kind = AST_FIELD_TEXT;
+        f.text = code;
+        f.length = std::strlen(code);
+        if (!w.emit(f)) return false;
+
+        const Walked walked = walk_decoded(w, reg);
+        if (walked == Walked::Stopped) return false;
+        if (walked == Walked::No) {
+            AstField octets{};
+            octets.name = "mb";
+            octets.kind = AST_FIELD_OCTETS;
+            octets.octets = reg.data;
+            octets.length = reg.data ? (reg.length < kMbOctets ? reg.length : kMbOctets) : 0;
+            if (!w.emit(octets)) return false;
+        }
+        if (!w.end(AST_FIELD_GROUP_END)) return false;
+    }
+    return true;
+}
+
+using T = AstModesMb;
+constexpr FieldRow kMbRows[] = {
+    integer("rep", KOVREL_MEMBER(T, rep)).width(8),
+    custom("bds", KOVREL_MEMBER(T, bds), walk_registers),
+};
+
+}  // namespace
+
+constinit const FieldDesc kModesMb = describe<T, init_valid<T, ast_dataitem_modes_mb_init>>(kMbRows);
+
+}  // namespace kovrel::fields

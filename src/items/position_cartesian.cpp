@@ -1,4 +1,5 @@
 // Cartesian position: X and Y as 24-bit two's complement fields, LSB 0.5 m.
+#include "items/item_fields.h"
 #include "items/motion_support.h"
 #include "kovrel/items_motion.h"
 
@@ -28,3 +29,18 @@ KOVREL_API void ast_dataitem_position_cartesian_get_summary(char *buffer, size_t
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstPositionCartesian;
+constexpr FieldRow kCartesianRows[] = {
+    scaled("x", KOVREL_MEMBER(T, x_raw), kLsb, "m").width(24),
+    scaled("y", KOVREL_MEMBER(T, y_raw), kLsb, "m").width(24),
+};
+}  // namespace
+
+constinit const FieldDesc kPositionCartesian =
+    describe<T, init_valid<T, ast_dataitem_position_cartesian_init>>(kCartesianRows);
+
+}  // namespace kovrel::fields

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/state.h"
+#include "items/item_fields.h"
 #include "items/motion_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/core.h"
@@ -165,3 +166,25 @@ KOVREL_API void ast_dataitem_position_wgs84_get_detail_html(char *buffer, size_t
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+// The encoders read the degrees, never the raw values.
+using L = AstPositionWgs84Low;
+constexpr FieldRow kLowRows[] = {
+    real("lat", KOVREL_MEMBER(L, latitude), "deg"),
+    real("lon", KOVREL_MEMBER(L, longitude), "deg"),
+};
+using P = AstPositionWgs84;
+constexpr FieldRow kFullRows[] = {
+    real("lat", KOVREL_MEMBER(P, latitude), "deg"),
+    real("lon", KOVREL_MEMBER(P, longitude), "deg"),
+};
+}  // namespace
+
+constinit const FieldDesc kPositionWgs84Low =
+    describe<L, init_valid<L, ast_dataitem_position_wgs84_low_init>>(kLowRows);
+constinit const FieldDesc kPositionWgs84 = describe<P, init_valid<P, ast_dataitem_position_wgs84_init>>(kFullRows);
+
+}  // namespace kovrel::fields

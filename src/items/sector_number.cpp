@@ -1,6 +1,7 @@
 // Sector number: the antenna azimuth as one octet, LSB 360/256 degrees.
 #include <cmath>
 
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/items_ident.h"
 
@@ -62,3 +63,18 @@ KOVREL_API void ast_dataitem_sector_number_get_detail_html(char *buffer, size_t 
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstSectorNumber;
+// The azimuth, not the octet: the encoder takes the azimuth whenever it lies
+// within one turn, and the defaults (azimuth 0) are within it.
+constexpr FieldRow kSectorRows[] = {
+    real("sector", KOVREL_MEMBER(T, azimuth), "deg"),
+};
+}  // namespace
+
+constinit const FieldDesc kSectorNumber = describe<T, init_valid<T, ast_dataitem_sector_number_init>>(kSectorRows);
+
+}  // namespace kovrel::fields

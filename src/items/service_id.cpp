@@ -1,5 +1,6 @@
 // Service identification: one octet naming the service a report belongs to.
 // Same layout as the message type, with a summary of its own.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/items_ident.h"
 
@@ -40,3 +41,16 @@ KOVREL_API void ast_dataitem_service_id_get_summary(char *buffer, size_t size, c
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstServiceId;
+constexpr FieldRow kServiceRows[] = {
+    integer("sid", KOVREL_MEMBER(T, value)).width(8),
+};
+}  // namespace
+
+constinit const FieldDesc kServiceId = describe<T, init_valid<T, ast_dataitem_service_id_init>>(kServiceRows);
+
+}  // namespace kovrel::fields

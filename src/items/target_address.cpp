@@ -1,6 +1,7 @@
 // Mode S 24-bit target address, with the country of its address block in
 // the detail view when the application lends a lookup.
 #include "core/state.h"
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_mode.h"
@@ -81,3 +82,16 @@ KOVREL_API void ast_dataitem_target_address_get_detail_html(char *buffer, size_t
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstTargetAddress;
+constexpr FieldRow kAddressRows[] = {
+    integer("aa", KOVREL_MEMBER(T, address)).width(24).shown(AST_FIELD_FORMAT_HEX6),
+};
+}  // namespace
+
+constinit const FieldDesc kTargetAddress = describe<T, init_valid<T, ast_dataitem_target_address_init>>(kAddressRows);
+
+}  // namespace kovrel::fields

@@ -1,4 +1,5 @@
 // Target identification: a source indicator and eight six-bit characters.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/items_mode.h"
 
@@ -64,3 +65,19 @@ KOVREL_API void ast_dataitem_target_id_get_detail_html(char *buffer, size_t size
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+const char *source_name(uint32_t sti) { return sti < 4 ? kSourceNames[sti] : nullptr; }
+
+using T = AstTargetId;
+constexpr FieldRow kTargetIdRows[] = {
+    enumeration("sti", KOVREL_MEMBER(T, sti), source_name).width(2),
+    text("tid", KOVREL_MEMBER(T, chars)),
+};
+}  // namespace
+
+constinit const FieldDesc kTargetId = describe<T, init_valid<T, ast_dataitem_target_id_init>>(kTargetIdRows);
+
+}  // namespace kovrel::fields

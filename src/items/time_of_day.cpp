@@ -1,4 +1,5 @@
 // Time of day: a 24-bit count of 1/128 s since midnight.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_ident.h"
@@ -80,3 +81,18 @@ KOVREL_API void ast_dataitem_time_of_day_get_detail_html(char *buffer, size_t si
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstTimeOfDay;
+// Seconds since midnight over the raw count, which the encoder writes
+// whenever it is not 0 (a count of 0 gives midnight from the zero parts).
+constexpr FieldRow kTimeRows[] = {
+    scaled("tod", KOVREL_MEMBER(T, raw), kLsb, "s").width(24),
+};
+}  // namespace
+
+constinit const FieldDesc kTimeOfDay = describe<T, init_valid<T, ast_dataitem_time_of_day_init>>(kTimeRows);
+
+}  // namespace kovrel::fields

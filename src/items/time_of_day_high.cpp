@@ -2,6 +2,7 @@
 // fraction of the second in 30 bits, LSB 2^-30 s. The FSI tells whether the
 // whole second of the accompanying time of day is the same, the next or the
 // previous one.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_ident.h"
@@ -62,3 +63,18 @@ KOVREL_API void ast_dataitem_time_of_day_high_get_detail_html(char *buffer, size
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstTimeOfDayHigh;
+constexpr FieldRow kTimeHighRows[] = {
+    integer("fsi", KOVREL_MEMBER(T, fsi)).width(2),
+    scaled("tomr", KOVREL_MEMBER(T, raw), kLsb, "s").width(30),
+};
+}  // namespace
+
+constinit const FieldDesc kTimeOfDayHigh =
+    describe<T, init_valid<T, ast_dataitem_time_of_day_high_init>>(kTimeHighRows);
+
+}  // namespace kovrel::fields

@@ -1,5 +1,6 @@
 // Track number: two octets. Most categories give the number 12 bits under
 // four spare bits; a few items use all 16 bits.
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_ident.h"
@@ -64,3 +65,18 @@ KOVREL_API void ast_dataitem_track_number_get_summary(char *buffer, size_t size,
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstTrackNumber;
+// twelve_bit is not a field: a number that fits 12 bits is written the same
+// in both layouts, and the decoder sets it from the item.
+constexpr FieldRow kTrackRows[] = {
+    integer("trn", KOVREL_MEMBER(T, number)).width(16),
+};
+}  // namespace
+
+constinit const FieldDesc kTrackNumber = describe<T, init_valid<T, ast_dataitem_track_number_init>>(kTrackRows);
+
+}  // namespace kovrel::fields

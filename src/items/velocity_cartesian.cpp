@@ -1,4 +1,5 @@
 // Cartesian velocity: VX and VY as 16-bit two's complement fields, LSB 0.25 m/s.
+#include "items/item_fields.h"
 #include "items/motion_support.h"
 #include "kovrel/items_motion.h"
 
@@ -28,3 +29,18 @@ KOVREL_API void ast_dataitem_velocity_cartesian_get_summary(char *buffer, size_t
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstVelocityCartesian;
+constexpr FieldRow kVelocityRows[] = {
+    scaled("vx", KOVREL_MEMBER(T, vx_raw), kLsb, "m/s").width(16),
+    scaled("vy", KOVREL_MEMBER(T, vy_raw), kLsb, "m/s").width(16),
+};
+}  // namespace
+
+constinit const FieldDesc kVelocityCartesian =
+    describe<T, init_valid<T, ast_dataitem_velocity_cartesian_init>>(kVelocityRows);
+
+}  // namespace kovrel::fields

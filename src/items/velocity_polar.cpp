@@ -1,5 +1,6 @@
 // Polar velocity: ground speed (16-bit unsigned, LSB 2^-14 NM/s) and heading
 // (16-bit unsigned, LSB 360/2^16 degrees). Speed is kept in knots.
+#include "items/item_fields.h"
 #include "items/motion_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_motion.h"
@@ -70,3 +71,19 @@ KOVREL_API void ast_dataitem_velocity_polar_get_detail_html(char *buffer, size_t
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+using T = AstVelocityPolar;
+// The values in knots and degrees, which the encoder prefers whenever either
+// is above 0 (and both at 0 write zero raw values, the defaults).
+constexpr FieldRow kPolarRows[] = {
+    real("gsp", KOVREL_MEMBER(T, speed), "kt"),
+    real("hdg", KOVREL_MEMBER(T, heading), "deg"),
+};
+}  // namespace
+
+constinit const FieldDesc kVelocityPolar = describe<T, init_valid<T, ast_dataitem_velocity_polar_init>>(kPolarRows);
+
+}  // namespace kovrel::fields

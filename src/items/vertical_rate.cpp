@@ -1,6 +1,7 @@
 // Vertical rate, LSB 6.25 ft/min, in two layouts: with a range-exceeded bit
 // (bit 16) above a 15-bit two's complement rate, and as a plain 16-bit two's
 // complement rate.
+#include "items/item_fields.h"
 #include "items/motion_support.h"
 #include "kovrel/codec.h"
 #include "kovrel/items_motion.h"
@@ -105,3 +106,24 @@ KOVREL_API void ast_dataitem_vertical_rate_no_re_get_detail_html(char *buffer, s
 }
 
 }  // extern "C"
+
+namespace kovrel::fields {
+
+namespace {
+// Over the raw rate: the encoders write it whenever the value is 0, which
+// the defaults give, and its wire width bounds what can be set.
+using T = AstVerticalRate;
+constexpr FieldRow kRateRows[] = {
+    flag("re", KOVREL_MEMBER(T, re)),
+    scaled("vr", KOVREL_MEMBER(T, raw), kLsbFeet, "ft/min").width(15),
+};
+constexpr FieldRow kRateNoReRows[] = {
+    scaled("vr", KOVREL_MEMBER(T, raw), kLsbFeet, "ft/min").width(16),
+};
+}  // namespace
+
+constinit const FieldDesc kVerticalRate = describe<T, init_valid<T, ast_dataitem_vertical_rate_init>>(kRateRows);
+constinit const FieldDesc kVerticalRateNoRe =
+    describe<T, init_valid<T, ast_dataitem_vertical_rate_no_re_init>>(kRateNoReRows);
+
+}  // namespace kovrel::fields

@@ -12,6 +12,19 @@ namespace {
 using namespace kovrel::fields;
 
 // Appends to a bounded buffer and counts what the whole text needs.
+// Writes v in base (8, 10 or 16, upper-case digits) at the end of a
+// 24-character text, zero-padded to width; returns the number of characters.
+size_t digits(char (&text)[24], uint64_t v, unsigned base, size_t width) {
+    static const char kDigits[] = "0123456789ABCDEF";
+    size_t n = 0;
+    do {
+        text[sizeof text - 1 - n++] = kDigits[v % base];
+        v /= base;
+    } while (v != 0);
+    while (n < width && n < sizeof text) text[sizeof text - 1 - n++] = '0';
+    return n;
+}
+
 class JsonOut {
 public:
     JsonOut(char *buffer, size_t size) : buf_(buffer), size_(buffer ? size : 0) {}
@@ -65,15 +78,16 @@ public:
         put('"');
     }
 
+    // Integers are written by hand: the integer std::to_chars keeps digit
+    // tables in function-local statics that a shared object would export.
     void unsigned_number(uint64_t v) {
         char text[24];
-        const auto r = std::to_chars(text, text + sizeof text, v);
-        put(text, static_cast<size_t>(r.ptr - text));
+        const size_t n = digits(text, v, 10, 0);
+        put(text + sizeof text - n, n);
     }
     void signed_number(int64_t v) {
-        char text[24];
-        const auto r = std::to_chars(text, text + sizeof text, v);
-        put(text, static_cast<size_t>(r.ptr - text));
+        if (v < 0) put('-');
+        unsigned_number(v < 0 ? static_cast<uint64_t>(0) - static_cast<uint64_t>(v) : static_cast<uint64_t>(v));
     }
     void real(double v) {
         if (!std::isfinite(v)) {
@@ -85,12 +99,11 @@ public:
         put(text, static_cast<size_t>(r.ptr - text));
     }
     // A number shown in a fixed radix as a string: "7700", "3C654A".
-    void radix(uint64_t v, unsigned base, int digits) {
+    void radix(uint64_t v, unsigned base, size_t width) {
         char text[24];
-        const auto r = std::to_chars(text, text + sizeof text, v, static_cast<int>(base));
+        const size_t n = digits(text, v, base, width);
         put('"');
-        for (int pad = digits - static_cast<int>(r.ptr - text); pad > 0; --pad) put('0');
-        for (const char *p = text; p < r.ptr; ++p) put(base == 16 && *p >= 'a' ? static_cast<char>(*p - 32) : *p);
+        put(text + sizeof text - n, n);
         put('"');
     }
 

@@ -3,6 +3,7 @@
 // MANAGAIR custom field, and the common items that serve some of them.
 #include "kovrel/cat001.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -10,12 +11,13 @@ namespace {
 
 using namespace views;
 
-// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex.
+// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex,
+// field description.
 // Items served by a common item take its summary and detail view.
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
-     nullptr, ast_dataitem_001_010_decode_ex},
+     nullptr, ast_dataitem_001_010_decode_ex, &fields::kDataSourceIdentifier},
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_2_byte},
     // The library reads at most the first extension of I001/030: a longer
     // chain is logged and cut after two octets.
@@ -26,22 +28,22 @@ constexpr ItemRow kRows[] = {
     // I001/050 apart by its identifier and print it as "MODE_2:...".
     {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_mode_3a_code_get_summary, ast_dataitem_mode_3a_code_get_detail_html,
-     nullptr, ast_dataitem_001_050_decode_ex},
+     nullptr, ast_dataitem_001_050_decode_ex, &fields::kMode2Code},
     {60, "Mode-2 Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_mode_3a_confidence_get_summary, ast_dataitem_mode_3a_confidence_get_detail_html,
-     nullptr, ast_dataitem_001_060_decode_ex},
+     nullptr, ast_dataitem_001_060_decode_ex, &fields::kMode3aConfidence},
     {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_mode_3a_code_get_summary, ast_dataitem_mode_3a_code_get_detail_html,
-     nullptr, ast_dataitem_001_070_decode_ex},
+     nullptr, ast_dataitem_001_070_decode_ex, &fields::kMode3aCode},
     {80, "Mode-3/A Code Confidence Indicator", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_mode_3a_confidence_get_summary, ast_dataitem_mode_3a_confidence_get_detail_html,
-     nullptr, ast_dataitem_001_080_decode_ex},
+     nullptr, ast_dataitem_001_080_decode_ex, &fields::kMode3aConfidence},
     {90, "Mode-C Code in Binary Representation", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_mode_c_code_get_summary, ast_dataitem_mode_c_code_get_detail_html,
-     nullptr, ast_dataitem_001_090_decode_ex},
+     nullptr, ast_dataitem_001_090_decode_ex, &fields::kModeCCode},
     {100, "Mode-C Code and Code Confidence Indicator", ast_dataitem_get_size_fixed_4_byte,
      ast_dataitem_mode_c_confidence_get_summary, ast_dataitem_mode_c_confidence_get_detail_html,
-     nullptr, ast_dataitem_001_100_decode_ex},
+     nullptr, ast_dataitem_001_100_decode_ex, &fields::kModeCConfidence},
     {120, nullptr, ast_dataitem_get_size_fixed_1_byte},
     // The plot characteristics are summarised as their bits.
     {130, "Radar Plot Characteristics", ast_dataitem_get_size_var_6_byte,
@@ -52,11 +54,11 @@ constexpr ItemRow kRows[] = {
     // All 16 bits of I001/161 are the number (the common item knows it).
     {161, "Track Plot Number", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_track_number_get_summary, kNoDetail,
-     nullptr, ast_dataitem_001_161_decode_ex},
+     nullptr, ast_dataitem_001_161_decode_ex, &fields::kTrackNumber},
     {170, "Track Status", ast_dataitem_get_size_var_2_byte},
     {200, "Calculated Track Velocity in Polar Coordinates", ast_dataitem_get_size_fixed_4_byte,
      ast_dataitem_velocity_polar_get_summary, ast_dataitem_velocity_polar_get_detail_html,
-     nullptr, ast_dataitem_001_200_decode_ex},
+     nullptr, ast_dataitem_001_200_decode_ex, &fields::kVelocityPolar},
     {210, "Track Quality", ast_dataitem_get_size_var_12_byte},
 
     // ASR-10SS and ASR-10SS Mk2 fill the places of I001/130 (FRN 10) and
@@ -75,10 +77,10 @@ constexpr ItemRow kRows[] = {
 
     {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size,
      ast_dataitem_random_field_sequencing_get_summary, kNoDetail,
-     nullptr, ast_dataitem_001_RFS_decode_ex},
+     nullptr, ast_dataitem_001_RFS_decode_ex, &fields::kExplicitField},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
      ast_dataitem_special_purpose_field_get_summary, kNoDetail,
-     nullptr, ast_dataitem_001_SPF_decode_ex},
+     nullptr, ast_dataitem_001_SPF_decode_ex, &fields::kExplicitField},
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 // field, and the common items that serve some of them.
 #include "kovrel/cat002.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -13,26 +14,27 @@ using namespace views;
 // I002/060, 070, 080, 090 and 100 stand in the UAP but have no row: they
 // cannot be sized, so a record announcing one of them stops there.
 //
-// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex.
+// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex,
+// field description.
 // Items served by a common item take its summary and detail view; the
 // message type keeps the common decoder but is summarised with the CAT002
 // meanings of its values.
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
-     ast_dataitem_002_010_encode_ex, ast_dataitem_002_010_decode_ex},
+     ast_dataitem_002_010_encode_ex, ast_dataitem_002_010_decode_ex, &fields::kDataSourceIdentifier},
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte,
      ast_dataitem_002_000_get_summary, kNoDetail,
-     ast_dataitem_002_000_encode_ex, ast_dataitem_002_000_decode_ex},
+     ast_dataitem_002_000_encode_ex, ast_dataitem_002_000_decode_ex, &fields::kMessageType},
     {20, "Sector Number", ast_dataitem_get_size_fixed_1_byte,
      ast_dataitem_sector_number_get_summary, ast_dataitem_sector_number_get_detail_html,
-     ast_dataitem_002_020_encode_ex, ast_dataitem_002_020_decode_ex},
+     ast_dataitem_002_020_encode_ex, ast_dataitem_002_020_decode_ex, &fields::kSectorNumber},
     {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte,
      ast_dataitem_time_of_day_get_summary, ast_dataitem_time_of_day_get_detail_html,
-     ast_dataitem_002_030_encode_ex, ast_dataitem_002_030_decode_ex},
+     ast_dataitem_002_030_encode_ex, ast_dataitem_002_030_decode_ex, &fields::kTimeOfDay},
     {41, "Antenna Rotation Period", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_antenna_rotation_period_get_summary, ast_dataitem_antenna_rotation_period_get_detail_html,
-     ast_dataitem_002_041_encode_ex, ast_dataitem_002_041_decode_ex},
+     ast_dataitem_002_041_encode_ex, ast_dataitem_002_041_decode_ex, &fields::kAntennaRotationPeriod},
     // The station status bits are shown as they are.
     {50, "Station Configuration Status", ast_dataitem_get_size_var_8_byte,
      ast_dataitem_binary_data_get_summary, kNoDetail},
@@ -48,10 +50,10 @@ constexpr ItemRow kRows[] = {
 
     {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size,
      ast_dataitem_random_field_sequencing_get_summary, kNoDetail,
-     nullptr, ast_dataitem_002_RFS_decode_ex},
+     nullptr, ast_dataitem_002_RFS_decode_ex, &fields::kExplicitField},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
      ast_dataitem_special_purpose_field_get_summary, kNoDetail,
-     nullptr, ast_dataitem_002_SPF_decode_ex},
+     nullptr, ast_dataitem_002_SPF_decode_ex, &fields::kExplicitField},
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -108,18 +109,19 @@ namespace {
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
-     ast_dataitem_004_010_encode_ex, ast_dataitem_004_010_decode_ex},
+     ast_dataitem_004_010_encode_ex, ast_dataitem_004_010_decode_ex, &fields::kDataSourceIdentifier},
     // A safety-net message type, read and written as the common message type.
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, nullptr, ast_dataitem_004_000_encode_ex,
-     ast_dataitem_004_000_decode_ex},
+     ast_dataitem_004_000_decode_ex, &fields::kMessageType},
     {20, "Time of Message", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
-     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_004_020_encode_ex, ast_dataitem_004_020_decode_ex},
+     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_004_020_encode_ex, ast_dataitem_004_020_decode_ex,
+     &fields::kTimeOfDay},
     {40, "Alert Identifier", ast_dataitem_get_size_fixed_2_byte},
     // One presence bit per safety-net function, extended by FX without bound.
     {60, "Safety Net Function & System Status", ast_dataitem_get_size_var_unlimited},
     // Both track numbers are 16-bit; the common functions tell them by identifier.
     {30, "Track Number 1", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_track_number_get_summary, kNoDetail,
-     ast_dataitem_004_030_encode_ex, ast_dataitem_004_030_decode_ex},
+     ast_dataitem_004_030_encode_ex, ast_dataitem_004_030_decode_ex, &fields::kTrackNumber},
     {170, "Aircraft Identification & Characteristics 1", ast_dataitem_004_170_get_size, kCompoundSummary,
      kCompoundDetail, nullptr, nullptr, nullptr, &kCompound004_170},
     {120, "Conflict Characteristics", ast_dataitem_004_120_get_size, kCompoundSummary, kCompoundDetail, nullptr,
@@ -127,13 +129,15 @@ constexpr ItemRow kRows[] = {
     {100, "Area Definition", ast_dataitem_004_100_get_size, kCompoundSummary, kCompoundDetail, nullptr, nullptr,
      nullptr, &kCompound004_100},
     {35, "Track Number 2", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_track_number_get_summary, kNoDetail,
-     ast_dataitem_004_035_encode_ex, ast_dataitem_004_035_decode_ex},
+     ast_dataitem_004_035_encode_ex, ast_dataitem_004_035_decode_ex, &fields::kTrackNumber},
     {171, "Aircraft Identification & Characteristics 2", ast_dataitem_004_171_get_size, kCompoundSummary,
      kCompoundDetail, nullptr, nullptr, nullptr, &kCompound004_171},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
-     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_004_REF_decode_ex},
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_004_REF_decode_ex,
+     &fields::kExplicitField},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
-     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_004_SPF_decode_ex},
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_004_SPF_decode_ex,
+     &fields::kExplicitField},
     // Items of the UAP that the safety-net views do not show: they are sized
     // (edition 1.13 layouts) so that records carrying them decode, but have no
     // name of their own and answer "Unknown CAT004 Dataitem".

@@ -6,6 +6,7 @@
 #include "kovrel/core.h"
 #include "kovrel/items.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 // I008/100 opens with a first part of three octets; only the third octet
@@ -29,10 +30,10 @@ using namespace views;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
-     ast_dataitem_008_010_encode_ex, ast_dataitem_008_010_decode_ex},
+     ast_dataitem_008_010_encode_ex, ast_dataitem_008_010_decode_ex, &fields::kDataSourceIdentifier},
     // The message type has no text of its own.
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail, ast_dataitem_008_000_encode_ex,
-     ast_dataitem_008_000_decode_ex},
+     ast_dataitem_008_000_decode_ex, &fields::kMessageType},
     {20, "Vector Qualifier", ast_dataitem_get_size_var_2_byte},
     // X, Y and length: one octet each.
     {36, "Sequence of Cartesian Vectors in SPF Notation", ast_dataitem_get_size_rep_3_byte},
@@ -41,7 +42,7 @@ constexpr ItemRow kRows[] = {
     {40, "Contour Identifier", ast_dataitem_get_size_fixed_2_byte},
     {50, "Sequence of Contour Points in SPF Notation", ast_dataitem_get_size_rep_2_byte},
     {90, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail, ast_dataitem_008_090_encode_ex,
-     ast_dataitem_008_090_decode_ex},
+     ast_dataitem_008_090_decode_ex, &fields::kTimeOfDay},
     {100, "Processing Status", ast_dataitem_008_100_get_size},
     // A chain of seven-bit status words, each octet extended by its FX bit,
     // with no upper bound in the category.
@@ -49,9 +50,11 @@ constexpr ItemRow kRows[] = {
     {120, "Total Number of Items Constituting One Weather Picture", ast_dataitem_get_size_fixed_2_byte},
     {38, "Sequence of Weather Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
-     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_008_SPF_decode_ex},
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_008_SPF_decode_ex,
+     &fields::kExplicitField},
     {997, "Random Field Sequencing", ast_dataitem_random_field_sequencing_get_size,
-     ast_dataitem_random_field_sequencing_get_summary, kNoDetail, nullptr, ast_dataitem_008_RFS_decode_ex},
+     ast_dataitem_random_field_sequencing_get_summary, kNoDetail, nullptr, ast_dataitem_008_RFS_decode_ex,
+     &fields::kExplicitField},
 };
 
 }  // namespace

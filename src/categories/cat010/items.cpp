@@ -6,6 +6,7 @@
 #include "kovrel/cat010.h"
 #include "kovrel/items.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -15,41 +16,42 @@ using namespace views;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
-     ast_dataitem_010_010_encode_ex, ast_dataitem_010_010_decode_ex},
+     ast_dataitem_010_010_encode_ex, ast_dataitem_010_010_decode_ex, &fields::kDataSourceIdentifier},
     // The message type has no text of its own.
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail,
-     ast_dataitem_010_000_encode_ex, ast_dataitem_010_000_decode_ex},
+     ast_dataitem_010_000_encode_ex, ast_dataitem_010_000_decode_ex, &fields::kMessageType},
     // TYP..CRT, SIM..TOT, SPI: three octets in edition 1.1.
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_3_byte},
     {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
-     ast_dataitem_010_140_encode_ex, ast_dataitem_010_140_decode_ex},
+     ast_dataitem_010_140_encode_ex, ast_dataitem_010_140_decode_ex, &fields::kTimeOfDay},
     // Read at 180/2^31 degrees. No encoder: the common one writes 180/2^25.
     {41, "Position in WGS-84 Co-ordinates", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary, kWgs84Detail,
-     nullptr, ast_dataitem_010_041_decode_ex},
+     nullptr, ast_dataitem_010_041_decode_ex, &fields::kPositionWgs84},
     {40, "Measured Position in Polar Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
     // X and Y of 16 bits in metres, unlike the common Cartesian position.
     {42, "Position in Cartesian Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
     {200, "Calculated Track Velocity in Polar Co-ordinates", ast_dataitem_get_size_fixed_4_byte,
-     kPolarSummary, kPolarDetail, ast_dataitem_010_200_encode_ex, ast_dataitem_010_200_decode_ex},
+     kPolarSummary, kPolarDetail, ast_dataitem_010_200_encode_ex, ast_dataitem_010_200_decode_ex,
+     &fields::kVelocityPolar},
     // VX and VY at 1/16 m/s, unlike the common Cartesian velocity (1/4 m/s).
     {202, "Calculated Track Velocity in Cartesian Co-ordinates", ast_dataitem_get_size_fixed_4_byte},
     {161, "Track Number", ast_dataitem_get_size_fixed_2_byte, kTrackSummary, kNoDetail,
-     ast_dataitem_010_161_encode_ex, ast_dataitem_010_161_decode_ex},
+     ast_dataitem_010_161_encode_ex, ast_dataitem_010_161_decode_ex, &fields::kTrackNumber},
     {170, "Track Status", ast_dataitem_get_size_var_3_byte},
     {60, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte, kMode3aSummary, kMode3aDetail,
-     ast_dataitem_010_060_encode_ex, ast_dataitem_010_060_decode_ex},
+     ast_dataitem_010_060_encode_ex, ast_dataitem_010_060_decode_ex, &fields::kMode3aCode},
     {220, "Target Address", ast_dataitem_get_size_fixed_3_byte, kAddressSummary, kAddressDetail,
-     ast_dataitem_010_220_encode_ex, ast_dataitem_010_220_decode_ex},
+     ast_dataitem_010_220_encode_ex, ast_dataitem_010_220_decode_ex, &fields::kTargetAddress},
     // Status octet and six octets of six-bit characters.
     {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte, kTargetIdSummary, kTargetIdDetail,
-     ast_dataitem_010_245_encode_ex, ast_dataitem_010_245_decode_ex},
+     ast_dataitem_010_245_encode_ex, ast_dataitem_010_245_decode_ex, &fields::kTargetId},
     {250, "Mode S MB Data", ast_dataitem_get_size_rep_8_byte, kModesMbSummary, kModesMbDetail,
-     nullptr, ast_dataitem_010_250_decode_ex},
+     nullptr, ast_dataitem_010_250_decode_ex, &fields::kModesMb},
     {300, "Vehicle Fleet Identification", ast_dataitem_get_size_fixed_1_byte},
     {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte, kModeCSummary, kModeCDetail,
-     ast_dataitem_010_090_encode_ex, ast_dataitem_010_090_decode_ex},
+     ast_dataitem_010_090_encode_ex, ast_dataitem_010_090_decode_ex, &fields::kModeCCode},
     {91, "Measured Height", ast_dataitem_get_size_fixed_2_byte, kHeightSummary, kHeightDetail,
-     nullptr, ast_dataitem_010_091_decode_ex},
+     nullptr, ast_dataitem_010_091_decode_ex, &fields::kHeight},
     // Length, orientation, width: one octet each.
     {270, "Target Size and Orientation", ast_dataitem_get_size_var_3_byte},
     {550, "System Status", ast_dataitem_get_size_fixed_1_byte},
@@ -60,9 +62,9 @@ constexpr ItemRow kRows[] = {
     {131, "Amplitude of Primary Plot", ast_dataitem_get_size_fixed_1_byte},
     {210, "Calculated Acceleration", ast_dataitem_get_size_fixed_2_byte},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
-     nullptr, ast_dataitem_010_SPF_decode_ex},
+     nullptr, ast_dataitem_010_SPF_decode_ex, &fields::kExplicitField},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size, kRefSummary, kNoDetail,
-     nullptr, ast_dataitem_010_REF_decode_ex},
+     nullptr, ast_dataitem_010_REF_decode_ex, &fields::kExplicitField},
 };
 
 }  // namespace

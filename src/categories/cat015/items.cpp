@@ -6,6 +6,7 @@
 #include "kovrel/cat015.h"
 #include "kovrel/items.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -176,20 +177,20 @@ constexpr ItemRow compound(uint16_t item, const char *name, AstDataItemGetSizeFn
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
-     ast_dataitem_015_010_encode_ex, ast_dataitem_015_010_decode_ex},
+     ast_dataitem_015_010_encode_ex, ast_dataitem_015_010_decode_ex, &fields::kDataSourceIdentifier},
     // Message type (seven bits) and report generation (one bit).
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte},
     {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, kServiceSummary, kNoDetail,
-     ast_dataitem_015_015_encode_ex, ast_dataitem_015_015_decode_ex},
+     ast_dataitem_015_015_encode_ex, ast_dataitem_015_015_decode_ex, &fields::kServiceId},
     // One octet with its FX bit; the edition defines no extent.
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_1_byte},
     // Seven-bit warning/error values, each octet extended by its FX bit,
     // with no upper bound in the category.
     {30, "Warning/Error Conditions", ast_dataitem_get_size_var_unlimited},
     {145, "Time of Applicability", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
-     ast_dataitem_015_145_encode_ex, ast_dataitem_015_145_decode_ex},
+     ast_dataitem_015_145_encode_ex, ast_dataitem_015_145_decode_ex, &fields::kTimeOfDay},
     {161, "Track/Plot Number", ast_dataitem_get_size_fixed_2_byte, kTrackSummary, kNoDetail,
-     ast_dataitem_015_161_encode_ex, ast_dataitem_015_161_decode_ex},
+     ast_dataitem_015_161_encode_ex, ast_dataitem_015_161_decode_ex, &fields::kTrackNumber},
     {170, "Track/Plot Status", ast_dataitem_get_size_var_1_byte},
     {50, "Update Period", ast_dataitem_get_size_fixed_2_byte},
     compound(270, "Target Size & Orientation", ast_dataitem_015_270_get_size, kCompound015_270),
@@ -218,7 +219,7 @@ constexpr ItemRow kRows[] = {
     // but defined by the edition at FRN 26, so a caller's own profile may
     // carry it.
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
-     nullptr, ast_dataitem_015_SPF_decode_ex},
+     nullptr, ast_dataitem_015_SPF_decode_ex, &fields::kExplicitField},
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "kovrel/cat016.h"
 #include "kovrel/items.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -15,21 +16,21 @@ using namespace views;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
-     ast_dataitem_016_010_encode_ex, ast_dataitem_016_010_decode_ex},
+     ast_dataitem_016_010_encode_ex, ast_dataitem_016_010_decode_ex, &fields::kDataSourceIdentifier},
     {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, kServiceSummary, kNoDetail,
-     ast_dataitem_016_015_encode_ex, ast_dataitem_016_015_decode_ex},
+     ast_dataitem_016_015_encode_ex, ast_dataitem_016_015_decode_ex, &fields::kServiceId},
     // The message type has no text of its own.
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail,
-     ast_dataitem_016_000_encode_ex, ast_dataitem_016_000_decode_ex},
+     ast_dataitem_016_000_encode_ex, ast_dataitem_016_000_decode_ex, &fields::kMessageType},
     {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
-     ast_dataitem_016_140_encode_ex, ast_dataitem_016_140_decode_ex},
+     ast_dataitem_016_140_encode_ex, ast_dataitem_016_140_decode_ex, &fields::kTimeOfDay},
     {200, "System Configuration Reporting Period", ast_dataitem_get_size_fixed_1_byte},
     // Pair, transmitter and receiver identifiers: two octets each.
     {300, "Pair Identification", ast_dataitem_get_size_rep_6_byte},
     // Latitude and longitude, four octets each.
     // Read at 180/2^31 degrees. No encoder: the common one writes 180/2^25.
     {400, "Position of the System Reference Point", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary, kWgs84Detail,
-     nullptr, ast_dataitem_016_400_decode_ex},
+     nullptr, ast_dataitem_016_400_decode_ex, &fields::kPositionWgs84},
     // Quarters of a metre, unlike the common height (6.25 ft).
     {405, "Height of System Reference Point", ast_dataitem_get_size_fixed_2_byte},
     // Identifier, position, altitude, time offset and its accuracy, and the
@@ -41,7 +42,7 @@ constexpr ItemRow kRows[] = {
     // but defined by the edition at FRN 11, so a caller's own profile may
     // carry it.
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
-     nullptr, ast_dataitem_016_SPF_decode_ex},
+     nullptr, ast_dataitem_016_SPF_decode_ex, &fields::kExplicitField},
 };
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "kovrel/cat019.h"
 #include "kovrel/items.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -15,12 +16,12 @@ using namespace views;
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
-     ast_dataitem_019_010_encode_ex, ast_dataitem_019_010_decode_ex},
+     ast_dataitem_019_010_encode_ex, ast_dataitem_019_010_decode_ex, &fields::kDataSourceIdentifier},
     // The message type has no text of its own.
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail,
-     ast_dataitem_019_000_encode_ex, ast_dataitem_019_000_decode_ex},
+     ast_dataitem_019_000_encode_ex, ast_dataitem_019_000_decode_ex, &fields::kMessageType},
     {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
-     ast_dataitem_019_140_encode_ex, ast_dataitem_019_140_decode_ex},
+     ast_dataitem_019_140_encode_ex, ast_dataitem_019_140_decode_ex, &fields::kTimeOfDay},
     {550, "System Status", ast_dataitem_get_size_fixed_1_byte},
     {551, "Tracking Processor Detailed Status", ast_dataitem_get_size_fixed_1_byte},
     // Remote sensor identifier and its status octet.
@@ -29,14 +30,14 @@ constexpr ItemRow kRows[] = {
     {553, "Reference Transponder Detailed Status", ast_dataitem_get_size_var_2_byte},
     // Read at 180/2^30 degrees. No encoder: the common one writes 180/2^25.
     {600, "Position of the MLT System Reference Point", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary, kWgs84Detail,
-     nullptr, ast_dataitem_019_600_decode_ex},
+     nullptr, ast_dataitem_019_600_decode_ex, &fields::kPositionWgs84},
     // Quarters of a metre, unlike the common height (6.25 ft).
     {610, "Height of the MLT System Reference Point", ast_dataitem_get_size_fixed_2_byte},
     {620, "WGS-84 Undulation", ast_dataitem_get_size_fixed_1_byte},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size, kRefSummary, kNoDetail,
-     nullptr, ast_dataitem_019_REF_decode_ex},
+     nullptr, ast_dataitem_019_REF_decode_ex, &fields::kExplicitField},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
-     nullptr, ast_dataitem_019_SPF_decode_ex},
+     nullptr, ast_dataitem_019_SPF_decode_ex, &fields::kExplicitField},
 };
 
 }  // namespace

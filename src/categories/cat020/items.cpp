@@ -6,6 +6,7 @@
 #include "kovrel/cat020.h"
 #include "kovrel/items.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -37,40 +38,40 @@ namespace {
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte, kSourceSummary, kSourceDetail,
-     ast_dataitem_020_010_encode_ex, ast_dataitem_020_010_decode_ex},
+     ast_dataitem_020_010_encode_ex, ast_dataitem_020_010_decode_ex, &fields::kDataSourceIdentifier},
     // Three octets since edition 1.10 added the CF octet; edition 1.9 data,
     // which stops after two, is read the same.
     {20, "Target Report Descriptor", ast_dataitem_get_size_var_3_byte},
     {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail,
-     ast_dataitem_020_140_encode_ex, ast_dataitem_020_140_decode_ex},
+     ast_dataitem_020_140_encode_ex, ast_dataitem_020_140_decode_ex, &fields::kTimeOfDay},
     // The capital "In" is the edition's own spelling.
     {41, "Position In WGS-84 Coordinates", ast_dataitem_get_size_fixed_8_byte, kWgs84Summary, kWgs84Detail,
-     ast_dataitem_020_041_encode_ex, ast_dataitem_020_041_decode_ex},
+     ast_dataitem_020_041_encode_ex, ast_dataitem_020_041_decode_ex, &fields::kPositionWgs84},
     // x and y: three octets each.
     {42, "Position in Cartesian Coordinates", ast_dataitem_get_size_fixed_6_byte, kCartesianSummary, kNoDetail,
-     nullptr, ast_dataitem_020_042_decode_ex},
+     nullptr, ast_dataitem_020_042_decode_ex, &fields::kPositionCartesian},
     {161, "Track Number", ast_dataitem_get_size_fixed_2_byte, kTrackSummary, kNoDetail,
-     ast_dataitem_020_161_encode_ex, ast_dataitem_020_161_decode_ex},
+     ast_dataitem_020_161_encode_ex, ast_dataitem_020_161_decode_ex, &fields::kTrackNumber},
     {170, "Track Status", ast_dataitem_get_size_var_2_byte},
     {70, "Mode-3/A Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte, kMode3aSummary, kMode3aDetail,
-     ast_dataitem_020_070_encode_ex, ast_dataitem_020_070_decode_ex},
+     ast_dataitem_020_070_encode_ex, ast_dataitem_020_070_decode_ex, &fields::kMode3aCode},
     {202, "Calculated Track Velocity in Cartesian Coordinates", ast_dataitem_get_size_fixed_4_byte,
-     kVelocitySummary, kNoDetail, nullptr, ast_dataitem_020_202_decode_ex},
+     kVelocitySummary, kNoDetail, nullptr, ast_dataitem_020_202_decode_ex, &fields::kVelocityCartesian},
     {90, "Flight Level in Binary Representation", ast_dataitem_get_size_fixed_2_byte, kModeCSummary, kModeCDetail,
-     ast_dataitem_020_090_encode_ex, ast_dataitem_020_090_decode_ex},
+     ast_dataitem_020_090_encode_ex, ast_dataitem_020_090_decode_ex, &fields::kModeCCode},
     // Validity bits and the Gray-coded Mode C reply, then its quality-pulse
     // bits: two octets each.
     {100, "Mode C Code", ast_dataitem_get_size_fixed_4_byte, kModeCQualitySummary, kModeCQualityDetail,
-     nullptr, ast_dataitem_020_100_decode_ex},
+     nullptr, ast_dataitem_020_100_decode_ex, &fields::kModeCConfidence},
     {220, "Target Address", ast_dataitem_get_size_fixed_3_byte, kAddressSummary, kAddressDetail,
-     ast_dataitem_020_220_encode_ex, ast_dataitem_020_220_decode_ex},
+     ast_dataitem_020_220_encode_ex, ast_dataitem_020_220_decode_ex, &fields::kTargetAddress},
     // Status octet and six octets of six-bit characters.
     {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte, kTargetIdSummary, kTargetIdDetail,
-     ast_dataitem_020_245_encode_ex, ast_dataitem_020_245_decode_ex},
+     ast_dataitem_020_245_encode_ex, ast_dataitem_020_245_decode_ex, &fields::kTargetId},
     {110, "Measured Height (Local Cartesian Coordinates)", ast_dataitem_get_size_fixed_2_byte,
-     kHeightSummary, kHeightDetail, nullptr, ast_dataitem_020_110_decode_ex},
+     kHeightSummary, kHeightDetail, nullptr, ast_dataitem_020_110_decode_ex, &fields::kHeight},
     {105, "Geometric Height (WGS-84)", ast_dataitem_get_size_fixed_2_byte, kHeightSummary, kHeightDetail,
-     nullptr, ast_dataitem_020_105_decode_ex},
+     nullptr, ast_dataitem_020_105_decode_ex, &fields::kHeight},
     {210, "Calculated Acceleration", ast_dataitem_get_size_fixed_2_byte},
     {300, "Vehicle Fleet Identification", ast_dataitem_get_size_fixed_1_byte},
     {310, "Pre-programmed Message", ast_dataitem_get_size_fixed_1_byte},
@@ -80,7 +81,7 @@ constexpr ItemRow kRows[] = {
     {400, "Contributing Devices", ast_dataitem_get_size_rep_1_byte},
     // Seven octets of register data and the register address octet.
     {250, "BDS Register Data", ast_dataitem_get_size_rep_8_byte, kModesMbSummary, kModesMbDetail,
-     nullptr, ast_dataitem_020_250_decode_ex},
+     nullptr, ast_dataitem_020_250_decode_ex, &fields::kModesMb},
     {230, "Communications/ACAS Capability and Flight Status", ast_dataitem_get_size_fixed_2_byte},
     {260, "ACAS Resolution Advisory Report", ast_dataitem_get_size_fixed_7_byte},
     // Seven-bit warning/error values, each octet extended by its FX bit,
@@ -91,11 +92,11 @@ constexpr ItemRow kRows[] = {
     // code "MODE_3/A"; its detail view shows the L bit as SMOOTHED, which is
     // what the bit means here.
     {50, "Mode-2 Code in Octal Representation", ast_dataitem_get_size_fixed_2_byte, nullptr, kMode3aDetail,
-     ast_dataitem_020_050_encode_ex, ast_dataitem_020_050_decode_ex},
+     ast_dataitem_020_050_encode_ex, ast_dataitem_020_050_decode_ex, &fields::kMode2Code},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size, kRefSummary, kNoDetail,
-     nullptr, ast_dataitem_020_REF_decode_ex},
+     nullptr, ast_dataitem_020_REF_decode_ex, &fields::kExplicitField},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size, kSpfSummary, kNoDetail,
-     nullptr, ast_dataitem_020_SPF_decode_ex},
+     nullptr, ast_dataitem_020_SPF_decode_ex, &fields::kExplicitField},
 };
 
 }  // namespace

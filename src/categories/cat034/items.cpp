@@ -3,6 +3,7 @@
 // and I034/060.
 #include "kovrel/cat034.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -54,26 +55,27 @@ namespace {
 // I034/100 (Generic Polar Window) stands in the UAP but has no row: it
 // cannot be sized, so a record announcing it stops there.
 //
-// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex.
+// Rows: item, name, size rule, summary, detail view, encode_ex, decode_ex,
+// field description.
 // Items served by a common item take its summary and detail view; the
 // message type keeps the common decoder but is summarised with the CAT034
 // meanings of its values.
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
-     ast_dataitem_034_010_encode_ex, ast_dataitem_034_010_decode_ex},
+     ast_dataitem_034_010_encode_ex, ast_dataitem_034_010_decode_ex, &fields::kDataSourceIdentifier},
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte,
      ast_dataitem_034_000_get_summary, kNoDetail,
-     ast_dataitem_034_000_encode_ex, ast_dataitem_034_000_decode_ex},
+     ast_dataitem_034_000_encode_ex, ast_dataitem_034_000_decode_ex, &fields::kMessageType},
     {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte,
      ast_dataitem_time_of_day_get_summary, ast_dataitem_time_of_day_get_detail_html,
-     ast_dataitem_034_030_encode_ex, ast_dataitem_034_030_decode_ex},
+     ast_dataitem_034_030_encode_ex, ast_dataitem_034_030_decode_ex, &fields::kTimeOfDay},
     {20, "Sector Number", ast_dataitem_get_size_fixed_1_byte,
      ast_dataitem_sector_number_get_summary, ast_dataitem_sector_number_get_detail_html,
-     ast_dataitem_034_020_encode_ex, ast_dataitem_034_020_decode_ex},
+     ast_dataitem_034_020_encode_ex, ast_dataitem_034_020_decode_ex, &fields::kSectorNumber},
     {41, "Antenna Rotation Period", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_antenna_rotation_period_get_summary, ast_dataitem_antenna_rotation_period_get_detail_html,
-     ast_dataitem_034_041_encode_ex, ast_dataitem_034_041_decode_ex},
+     ast_dataitem_034_041_encode_ex, ast_dataitem_034_041_decode_ex, &fields::kAntennaRotationPeriod},
     {50, "Station Configuration & Status", ast_dataitem_034_050_get_size,
      kCompoundSummary, kCompoundDetail,
      nullptr, nullptr, nullptr, &kCompound034_050},
@@ -87,10 +89,10 @@ constexpr ItemRow kRows[] = {
     {90, "Collimation Error", ast_dataitem_get_size_fixed_2_byte},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
      ast_dataitem_reserved_expansion_field_get_summary, kNoDetail,
-     nullptr, ast_dataitem_034_REF_decode_ex},
+     nullptr, ast_dataitem_034_REF_decode_ex, &fields::kExplicitField},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
      ast_dataitem_special_purpose_field_get_summary, kNoDetail,
-     nullptr, ast_dataitem_034_SPF_decode_ex},
+     nullptr, ast_dataitem_034_SPF_decode_ex, &fields::kExplicitField},
 };
 
 }  // namespace

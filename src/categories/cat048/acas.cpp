@@ -1,6 +1,8 @@
 // I048/260 ACAS Resolution Advisory Report: the 56 bits of Mode S register
 // BDS 3,0 (ACAS active resolution advisory) as the transponder reported them.
+#include "categories/cat048/item_fields.h"
 #include "items/item_ex.h"
+#include "items/item_fields.h"
 #include "items/item_support.h"
 #include "kovrel/bds.h"
 #include "kovrel/cat048.h"
@@ -59,3 +61,20 @@ KOVREL_API void ast_dataitem_048_260_get_detail_html(char *buffer, size_t size, 
 }  // extern "C"
 
 KOVREL_DECODE_EX(048_260, AstItem048_260, ast_dataitem_048_260_decode)
+
+namespace kovrel::fields {
+
+namespace {
+
+using T = AstItem048_260;
+
+// The register's fields, under "bds".
+constexpr FieldRow kRows[] = {
+    group("bds", KOVREL_MEMBER(T, bds), kBds30),
+};
+
+}  // namespace
+
+constinit const FieldDesc k048_260 = describe<T, init_valid<T, ast_dataitem_048_260_init>>(kRows);
+
+}  // namespace kovrel::fields

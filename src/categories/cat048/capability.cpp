@@ -1,5 +1,6 @@
 // I048/230 Communications / ACAS Capability and Flight Status of a Mode S
 // transponder.
+#include "categories/cat048/item_fields.h"
 #include "core/text.h"
 #include "items/item_ex.h"
 #include "items/item_support.h"
@@ -42,6 +43,7 @@ KOVREL_API void ast_dataitem_048_230_decode(AstItem048_230 *out, const AstDataIt
     out->aic = (p[1] >> 5) & 1u;
     out->b1a = (p[1] >> 4) & 1u;
     out->b1b = p[1] & 0x0Fu;
+    out->si = (p[0] >> 1) & 1u;
     out->valid = 1;
 }
 
@@ -70,3 +72,28 @@ KOVREL_API void ast_dataitem_048_230_get_detail_html(char *buffer, size_t size, 
 }  // extern "C"
 
 KOVREL_DECODE_EX(048_230, AstItem048_230, ast_dataitem_048_230_decode)
+
+namespace kovrel::fields {
+
+namespace {
+
+using T = AstItem048_230;
+
+// COM and STAT are kept as their conversions fold them: STAT is 8 for the
+// wire codes 6 and 7, which takes four bits.
+constexpr FieldRow kRows[] = {
+    enumeration("com", KOVREL_MEMBER(T, com), ast_transponder_comm_cap_to_str).width(3),
+    enumeration("stat", KOVREL_MEMBER(T, stat), ast_radar_flight_status_to_str).width(4),
+    flag("si", KOVREL_MEMBER(T, si)),
+    flag("mssc", KOVREL_MEMBER(T, mssc)),
+    flag("arc", KOVREL_MEMBER(T, arc)),
+    flag("aic", KOVREL_MEMBER(T, aic)),
+    flag("b1a", KOVREL_MEMBER(T, b1a)),
+    integer("b1b", KOVREL_MEMBER(T, b1b)).width(4),
+};
+
+}  // namespace
+
+constinit const FieldDesc k048_230 = describe<T, init_valid<T, ast_dataitem_048_230_init>>(kRows);
+
+}  // namespace kovrel::fields

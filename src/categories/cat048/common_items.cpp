@@ -37,7 +37,3 @@ KOVREL_DECODE_EX(048_250, AstModesMb, ast_dataitem_modes_mb_decode)
 
 KOVREL_DECODE_EX(048_SPF, AstSpecialPurposeField, ast_dataitem_special_purpose_field_decode)
 KOVREL_DECODE_EX(048_REF, AstReservedExpansionField, ast_dataitem_reserved_expansion_field_decode)
-
-// I048/120 has no decoded form beyond its subfields: it decodes into the
-// generic subfield table.
-KOVREL_DECODE_EX(048_120, AstSubfieldList, ast_dataitem_subfields_decode)

@@ -1,5 +1,6 @@
 // I048/110 Height Measured by a 3D Radar: a 14-bit two's complement height
 // in units of 25 ft; the two top bits of the item are spare.
+#include "categories/cat048/item_fields.h"
 #include "items/item_ex.h"
 #include "items/item_support.h"
 #include "kovrel/cat048.h"
@@ -50,3 +51,20 @@ KOVREL_API void ast_dataitem_048_110_get_detail_html(char *buffer, size_t size, 
 }  // extern "C"
 
 KOVREL_DECODE_EX(048_110, AstItem048_110, ast_dataitem_048_110_decode)
+
+namespace kovrel::fields {
+
+namespace {
+
+using T = AstItem048_110;
+
+// The standard's mnemonic of the height is "3DH"; the structure holds feet.
+constexpr FieldRow kRows[] = {
+    integer("3dh", KOVREL_MEMBER(T, height), "ft"),
+};
+
+}  // namespace
+
+constinit const FieldDesc k048_110 = describe<T, init_valid<T, ast_dataitem_048_110_init>>(kRows);
+
+}  // namespace kovrel::fields

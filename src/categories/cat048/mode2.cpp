@@ -1,5 +1,6 @@
 // I048/050 Mode-2 Code in Octal Representation: the 12-bit code and its
 // validation, garbling and smoothing flags.
+#include "categories/cat048/item_fields.h"
 #include "items/item_ex.h"
 #include "items/item_support.h"
 #include "kovrel/cat048.h"
@@ -64,3 +65,23 @@ KOVREL_API void ast_dataitem_048_050_get_detail_html(char *buffer, size_t size, 
 
 KOVREL_DECODE_EX(048_050, AstItem048_050, ast_dataitem_048_050_decode)
 KOVREL_ENCODE_EX(048_050, AstItem048_050, ast_dataitem_048_050_encode)
+
+namespace kovrel::fields {
+
+namespace {
+
+using T = AstItem048_050;
+
+// V is kept as the wire has it: 1 when the code is not validated.
+constexpr FieldRow kRows[] = {
+    flag("v", KOVREL_MEMBER(T, v)),
+    flag("g", KOVREL_MEMBER(T, g)),
+    flag("l", KOVREL_MEMBER(T, l)),
+    integer("mode2", KOVREL_MEMBER(T, code)).width(12).shown(AST_FIELD_FORMAT_OCTAL4),
+};
+
+}  // namespace
+
+constinit const FieldDesc k048_050 = describe<T, init_valid<T, ast_dataitem_048_050_init>>(kRows);
+
+}  // namespace kovrel::fields

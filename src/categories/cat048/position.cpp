@@ -2,6 +2,7 @@
 // Position in Cartesian Co-ordinates.
 #include <cmath>
 
+#include "categories/cat048/item_fields.h"
 #include "items/item_ex.h"
 #include "items/item_support.h"
 #include "kovrel/cat048.h"
@@ -126,3 +127,31 @@ KOVREL_API void ast_dataitem_048_042_get_detail_html(char *buffer, size_t size, 
 KOVREL_DECODE_EX(048_040, AstItem048_040, ast_dataitem_048_040_decode)
 KOVREL_ENCODE_EX(048_040, AstItem048_040, ast_dataitem_048_040_encode)
 KOVREL_DECODE_EX(048_042, AstItem048_042, ast_dataitem_048_042_decode)
+
+namespace kovrel::fields {
+
+namespace {
+
+using Polar = AstItem048_040;
+using Cartesian = AstItem048_042;
+
+// The encoder sends RHO and THETA from their values (raw only when a value
+// is 0), so the values are what a caller sets.
+constexpr FieldRow kPolarRows[] = {
+    real("rho", KOVREL_MEMBER(Polar, rho), "NM"),
+    real("theta", KOVREL_MEMBER(Polar, theta), "deg"),
+};
+
+// X and Y in metres, as the summary shows them.
+constexpr FieldRow kCartesianRows[] = {
+    scaled("x", KOVREL_MEMBER(Cartesian, x), kCartesianLsb * kMetresPerNm, "m").width(16),
+    scaled("y", KOVREL_MEMBER(Cartesian, y), kCartesianLsb * kMetresPerNm, "m").width(16),
+};
+
+}  // namespace
+
+constinit const FieldDesc k048_040 = describe<Polar, init_valid<Polar, ast_dataitem_048_040_init>>(kPolarRows);
+constinit const FieldDesc k048_042 =
+    describe<Cartesian, init_valid<Cartesian, ast_dataitem_048_042_init>>(kCartesianRows);
+
+}  // namespace kovrel::fields

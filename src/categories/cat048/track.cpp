@@ -1,5 +1,6 @@
 // I048/170 Track Status and I048/210 Track Quality: how the radar's local
 // tracker rates a track.
+#include "categories/cat048/item_fields.h"
 #include "items/item_ex.h"
 #include "items/item_support.h"
 #include "kovrel/cat048.h"
@@ -36,13 +37,21 @@ KOVREL_API void ast_dataitem_048_170_init(AstItem048_170 *out) {
 KOVREL_API void ast_dataitem_048_170_decode(AstItem048_170 *out, const AstDataItem *item) {
     ast_dataitem_048_170_init(out);
     if (!out || !items::span_at_least(item, 1) || item->id != kStatusId) return;
-    // Only the first octet is read; an extension octet is accepted and ignored.
+    // The item's length, not the FX bit, says whether the extension is there.
     const uint8_t s = item->data[0];
     out->cnf = s >> 7;
     out->rad = (s >> 5) & 3u;
     out->dou = (s >> 4) & 1u;
     out->mah = (s >> 3) & 1u;
     out->cdm = (s >> 1) & 3u;
+    if (item->length >= 2) {
+        const uint8_t e = item->data[1];
+        out->ext_present = 1;
+        out->tre = e >> 7;
+        out->gho = (e >> 6) & 1u;
+        out->sup = (e >> 5) & 1u;
+        out->tcc = (e >> 4) & 1u;
+    }
     out->valid = 1;
 }
 
@@ -97,3 +106,43 @@ KOVREL_API void ast_dataitem_048_210_get_detail_html(char *buffer, size_t size, 
 
 KOVREL_DECODE_EX(048_170, AstItem048_170, ast_dataitem_048_170_decode)
 KOVREL_DECODE_EX(048_210, AstItem048_210, ast_dataitem_048_210_decode)
+
+namespace kovrel::fields {
+
+namespace {
+
+using Status = AstItem048_170;
+using Quality = AstItem048_210;
+
+const char *rad_name(uint32_t rad) { return rad < 4 ? kRadText[rad] : nullptr; }
+const char *cdm_name(uint32_t cdm) { return cdm < 4 ? kCdmText[cdm] : nullptr; }
+
+constexpr Member kExtension = KOVREL_MEMBER(Status, ext_present);
+
+constexpr FieldRow kStatusRows[] = {
+    flag("cnf", KOVREL_MEMBER(Status, cnf)),
+    enumeration("rad", KOVREL_MEMBER(Status, rad), rad_name).width(2),
+    flag("dou", KOVREL_MEMBER(Status, dou)),
+    flag("mah", KOVREL_MEMBER(Status, mah)),
+    enumeration("cdm", KOVREL_MEMBER(Status, cdm), cdm_name).width(2),
+    flag("tre", KOVREL_MEMBER(Status, tre)).when(kExtension),
+    flag("gho", KOVREL_MEMBER(Status, gho)).when(kExtension),
+    flag("sup", KOVREL_MEMBER(Status, sup)).when(kExtension),
+    flag("tcc", KOVREL_MEMBER(Status, tcc)).when(kExtension),
+};
+
+// The standard deviations in the units the summary prints, from their raw
+// octets.
+constexpr FieldRow kQualityRows[] = {
+    scaled("sigx", KOVREL_MEMBER(Quality, sigma_x.raw), kSigmaLsb[0], "NM").width(8),
+    scaled("sigy", KOVREL_MEMBER(Quality, sigma_y.raw), kSigmaLsb[1], "NM").width(8),
+    scaled("sigv", KOVREL_MEMBER(Quality, sigma_v.raw), kSigmaLsb[2], "kt").width(8),
+    scaled("sigh", KOVREL_MEMBER(Quality, sigma_h.raw), kSigmaLsb[3], "deg").width(8),
+};
+
+}  // namespace
+
+constinit const FieldDesc k048_170 = describe<Status, init_valid<Status, ast_dataitem_048_170_init>>(kStatusRows);
+constinit const FieldDesc k048_210 = describe<Quality, init_valid<Quality, ast_dataitem_048_210_init>>(kQualityRows);
+
+}  // namespace kovrel::fields

@@ -2,6 +2,7 @@
 // the octet's FX bit dropped.
 #include <cstdio>
 
+#include "categories/cat048/item_fields.h"
 #include "items/item_ex.h"
 #include "items/item_support.h"
 #include "kovrel/cat048.h"
@@ -52,3 +53,23 @@ KOVREL_API void ast_dataitem_048_030_get_detail_html(char *buffer, size_t size, 
 }  // extern "C"
 
 KOVREL_DECODE_EX(048_030, AstItem048_030, ast_dataitem_048_030_decode)
+
+namespace kovrel::fields {
+
+namespace {
+
+using T = AstItem048_030;
+
+// One code: seven bits of its octet.
+constexpr FieldRow kCodeRows[] = {integer(nullptr, member_of<uint32_t>(0)).width(7)};
+constinit const FieldDesc kCode = describe<uint32_t>(kCodeRows);
+
+constexpr FieldRow kRows[] = {
+    array("codes", KOVREL_MEMBER(T, codes), KOVREL_MEMBER(T, count), sizeof(uint32_t), kMaxCodes, kCode),
+};
+
+}  // namespace
+
+constinit const FieldDesc k048_030 = describe<T, init_valid<T, ast_dataitem_048_030_init>>(kRows);
+
+}  // namespace kovrel::fields

@@ -7,6 +7,7 @@
 #include "kovrel/items_mode.h"
 #include "kovrel/items_motion.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 // I062/510 is a chain of 3-octet groups (system unit identification and
@@ -31,27 +32,31 @@ using namespace views;
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
-     ast_dataitem_062_010_encode_ex, ast_dataitem_062_010_decode_ex},
+     ast_dataitem_062_010_encode_ex, ast_dataitem_062_010_decode_ex, &fields::kDataSourceIdentifier},
     {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_service_id_get_summary,
-     kNoDetail, ast_dataitem_062_015_encode_ex, ast_dataitem_062_015_decode_ex},
+     kNoDetail, ast_dataitem_062_015_encode_ex, ast_dataitem_062_015_decode_ex, &fields::kServiceId},
     {70, "Time of Track Information", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
-     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_062_070_encode_ex, ast_dataitem_062_070_decode_ex},
+     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_062_070_encode_ex, ast_dataitem_062_070_decode_ex,
+     &fields::kTimeOfDay},
     {105, "Calculated Position in WGS84 Coordinates", ast_dataitem_get_size_fixed_8_byte,
      ast_dataitem_position_wgs84_get_summary, ast_dataitem_position_wgs84_get_detail_html, nullptr,
-     ast_dataitem_062_105_decode_ex},
+     ast_dataitem_062_105_decode_ex, &fields::kPositionWgs84},
     {100, "Calculated Track Position (Cartesian)", ast_dataitem_get_size_fixed_6_byte,
-     ast_dataitem_position_cartesian_get_summary, kNoDetail, nullptr, ast_dataitem_062_100_decode_ex},
+     ast_dataitem_position_cartesian_get_summary, kNoDetail, nullptr, ast_dataitem_062_100_decode_ex,
+     &fields::kPositionCartesian},
     {185, "Calculated Track Velocity (Cartesian)", ast_dataitem_get_size_fixed_4_byte,
-     ast_dataitem_velocity_cartesian_get_summary, kNoDetail, nullptr, ast_dataitem_062_185_decode_ex},
+     ast_dataitem_velocity_cartesian_get_summary, kNoDetail, nullptr, ast_dataitem_062_185_decode_ex,
+     &fields::kVelocityCartesian},
     {210, "Calculated Acceleration (Cartesian)", ast_dataitem_get_size_fixed_2_byte},
     {60, "Track Mode 3/A Code", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_mode_3a_code_get_summary,
-     ast_dataitem_mode_3a_code_get_detail_html, ast_dataitem_062_060_encode_ex, ast_dataitem_062_060_decode_ex},
+     ast_dataitem_mode_3a_code_get_detail_html, ast_dataitem_062_060_encode_ex, ast_dataitem_062_060_decode_ex,
+     &fields::kMode3aCodeChanged},
     {245, "Target Identification", ast_dataitem_get_size_fixed_7_byte, ast_dataitem_target_id_get_summary,
-     ast_dataitem_target_id_get_detail_html, nullptr, ast_dataitem_062_245_decode_ex},
+     ast_dataitem_target_id_get_detail_html, nullptr, ast_dataitem_062_245_decode_ex, &fields::kTargetId},
     {380, "Aircraft Derived Data", ast_dataitem_062_380_get_size, kCompoundSummary, kCompoundDetail, nullptr,
      nullptr, nullptr, &kCompound062_380},
     {40, "Track Number", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_track_number_get_summary, kNoDetail,
-     ast_dataitem_062_040_encode_ex, ast_dataitem_062_040_decode_ex},
+     ast_dataitem_062_040_encode_ex, ast_dataitem_062_040_decode_ex, &fields::kTrackNumber},
     {80, "Track Status", ast_dataitem_get_size_var_6_byte},
     {290, "System Track Update Ages", ast_dataitem_062_290_get_size, kCompoundSummary, kCompoundDetail, nullptr,
      nullptr, nullptr, &kCompound062_290},
@@ -71,18 +76,21 @@ constexpr ItemRow kRows[] = {
     // The Mode 2 code shares the Mode 3/A functions, which print it as
     // "MODE_2:" without flags for this item.
     {120, "Track Mode 2 Code", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_mode_3a_code_get_summary,
-     ast_dataitem_mode_3a_code_get_detail_html, ast_dataitem_062_120_encode_ex, ast_dataitem_062_120_decode_ex},
+     ast_dataitem_mode_3a_code_get_detail_html, ast_dataitem_062_120_encode_ex, ast_dataitem_062_120_decode_ex,
+     &fields::kMode2Code},
     {510, "Composed Track Number", ast_dataitem_062_510_get_size},
     {500, "Estimated Accuracies", ast_dataitem_062_500_get_size, kCompoundSummary, kCompoundDetail, nullptr,
      nullptr, nullptr, &kCompound062_500},
     {340, "Measured Information", ast_dataitem_062_340_get_size, kCompoundSummary, kCompoundDetail, nullptr,
      nullptr, nullptr, &kCompound062_340},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
-     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_062_REF_decode_ex},
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_062_REF_decode_ex,
+     &fields::kExplicitField},
     // CAT062 titles its special purpose field differently from the other
     // categories; consumers display and match on this text.
     {999, "Reserved For Special Purpose Indicator", ast_dataitem_special_purpose_field_get_size,
-     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_062_SPF_decode_ex},
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_062_SPF_decode_ex,
+     &fields::kExplicitField},
 };
 
 }  // namespace

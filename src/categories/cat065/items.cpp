@@ -4,6 +4,7 @@
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -16,22 +17,25 @@ using namespace views;
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
-     ast_dataitem_065_010_encode_ex, ast_dataitem_065_010_decode_ex},
+     ast_dataitem_065_010_encode_ex, ast_dataitem_065_010_decode_ex, &fields::kDataSourceIdentifier},
     // Read and written as the common message type, summarised by the category.
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail, ast_dataitem_065_000_encode_ex,
-     ast_dataitem_065_000_decode_ex},
+     ast_dataitem_065_000_decode_ex, &fields::kMessageType},
     {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_service_id_get_summary,
-     kNoDetail, ast_dataitem_065_015_encode_ex, ast_dataitem_065_015_decode_ex},
+     kNoDetail, ast_dataitem_065_015_encode_ex, ast_dataitem_065_015_decode_ex, &fields::kServiceId},
     {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
-     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_065_030_encode_ex, ast_dataitem_065_030_decode_ex},
+     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_065_030_encode_ex, ast_dataitem_065_030_decode_ex,
+     &fields::kTimeOfDay},
     {20, "Batch Number", ast_dataitem_get_size_fixed_1_byte},
     // NOGO, OVL, TSV and PSS packed into one octet.
     {40, "SDPS Configuration and Status", ast_dataitem_get_size_fixed_1_byte},
     {50, "Service Status Report", ast_dataitem_get_size_fixed_1_byte},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
-     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_065_REF_decode_ex},
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_065_REF_decode_ex,
+     &fields::kExplicitField},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
-     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_065_SPF_decode_ex},
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_065_SPF_decode_ex,
+     &fields::kExplicitField},
 };
 
 }  // namespace

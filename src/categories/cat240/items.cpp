@@ -10,6 +10,7 @@
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
 #include "items/common_views.h"
+#include "items/item_fields.h"
 #include "record/item_table.h"
 
 namespace kovrel {
@@ -22,11 +23,11 @@ using namespace views;
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
-     ast_dataitem_240_010_encode_ex, ast_dataitem_240_010_decode_ex},
+     ast_dataitem_240_010_encode_ex, ast_dataitem_240_010_decode_ex, &fields::kDataSourceIdentifier},
     // 1 = video summary, 2 = video message; read and written as the common
     // message type, summarised by the category.
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail, ast_dataitem_240_000_encode_ex,
-     ast_dataitem_240_000_decode_ex},
+     ast_dataitem_240_000_decode_ex, &fields::kMessageType},
     // Message sequence identifier, 32 bits.
     {20, "Video Record Header", ast_dataitem_get_size_fixed_4_byte},
     // REP characters of free text.
@@ -41,11 +42,14 @@ constexpr ItemRow kRows[] = {
     {51, "Video Block Medium Data Volume", ast_dataitem_get_size_rep_64_byte},
     {52, "Video Block High Data Volume", ast_dataitem_get_size_rep_256_byte},
     {140, "Time of Day", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
-     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_240_140_encode_ex, ast_dataitem_240_140_decode_ex},
+     ast_dataitem_time_of_day_get_detail_html, ast_dataitem_240_140_encode_ex, ast_dataitem_240_140_decode_ex,
+     &fields::kTimeOfDay},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
-     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_240_REF_decode_ex},
+     ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_240_REF_decode_ex,
+     &fields::kExplicitField},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
-     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_240_SPF_decode_ex},
+     ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_240_SPF_decode_ex,
+     &fields::kExplicitField},
 };
 
 }  // namespace
