@@ -30,9 +30,6 @@ KOVREL_API void ast_subfield_048_120_get_summary(char *buffer, size_t size, cons
                                                  uint32_t subfield_id);
 KOVREL_API void ast_subfield_048_120_get_detail_html(char *buffer, size_t size, const AstSubfield *span,
                                                      uint32_t subfield_id);
-/** Structured decode of I048/120 into an AstSubfieldList (its subfield table). */
-KOVREL_API void ast_dataitem_048_120_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
-                                               const AstDataItem *item);
 
 /* I048/130 Radar Plot Characteristics (compound): SRL, SRR, SAM, PRL, PAM, RPD, APD. */
 KOVREL_API uint64_t ast_dataitem_048_130_get_size(const uint8_t *octets, size_t available);
@@ -152,7 +149,53 @@ KOVREL_API void ast_dataitem_048_REF_decode_ex(AstDataItemValue *out, void *stor
  *   _encode_ex   the same from value->value; *out carries value->id.
  */
 
-/** I048/020 Target Report Descriptor. Defaults: rdp 1, all else 0. */
+/*
+ * Named fields (fields.h: ast_dataitem_walk_fields, ast_dataitem_get_fields_json,
+ * ast_dataitem_fields_set). Every CAT048 item with a structured decode
+ * describes its structure; ast_dataitem_fields_init gives the structure's
+ * defaults marked valid, ready to be filled and encoded. The own items:
+ *   I048/020  typ (with the summary's TYPE texts as display names), sim,
+ *             rdp (the chain number 1 or 2, "CHN1"/"CHN2"), spi, rab; from
+ *             octet 2 tst, err, xpp, me, mi, foe_fri (IFF status); groups
+ *             adsb, scn, pai (octet 3), acasxv, poxpr (octet 4), poact,
+ *             dtfxpr, dtfact (octet 5), irmxpr, irmact (octet 6), each
+ *             {ep, val}. The fields of an octet the item does not hold are
+ *             not walked; setting one makes its octet present.
+ *   I048/030  codes: an array of the codes.
+ *   I048/040  rho (NM), theta (deg): the values the encoder sends.
+ *   I048/042  x, y (m, as the summary shows them).
+ *   I048/050  v (1: not validated), g, l, mode2 (octal).
+ *   I048/110  3dh (ft).
+ *   I048/120  groups cal {d, cal (m/s)} and rds {rep, dop (m/s), amb (m/s),
+ *             frq (MHz)}, each only when its subfield is present.
+ *   I048/130  one group per present subfield, named by its short id in lower
+ *             case and holding its value under the same name: srl (deg),
+ *             srr, sam (dBm), prl (deg), pam (dBm), rpd (NM), apd (deg).
+ *   I048/170  cnf, rad, dou, mah, cdm (rad and cdm with the detail view's
+ *             texts); tre, gho, sup, tcc when the item holds octet 2.
+ *   I048/210  sigx, sigy (NM), sigv (kt), sigh (deg).
+ *   I048/230  com, stat (as decoding folds them), si, mssc, arc, aic, b1a, b1b.
+ *   I048/260  group bds: the fields of register 3,0.
+ * Setting refuses a value wider than its wire field.
+ */
+
+/** One element of the later I048/020 extensions: whether the radar populated it, and its value. */
+typedef struct AstItem048_020Element {
+    uint8_t ep;  /**< element populated */
+    uint8_t val; /**< the value (one bit; four bits for acasxv) */
+} AstItem048_020Element;
+
+/**
+ * I048/020 Target Report Descriptor. Defaults: rdp 1, all else 0.
+ *
+ * The members after foe_fri were added later and decode the rest of the
+ * item: ERR and XPP of octet 2, and the second to fifth extensions
+ * (octets 3 to 6: on-site ADS-B, SCN and PAI information; ACAS extended
+ * version and PO transponder capability; PO and basic dataflash activity;
+ * IRM capability and activity). Each extN_present tells whether the item
+ * holds that octet (ext1 is octet 2). The item's size rule stops at octet 2,
+ * so octets 3 to 6 come only from a span that holds them.
+ */
 typedef struct AstItem048_020 {
     uint32_t valid;
     uint32_t typ;     /**< 0..7: no detection, PSR, SSR, PSR+SSR, all-call, roll-call, PSR+all-call, PSR+roll-call */
@@ -164,16 +207,41 @@ typedef struct AstItem048_020 {
     uint8_t me;       /**< military emergency */
     uint8_t mi;       /**< military identification */
     uint32_t foe_fri; /**< IFF status (see ast_iff_status_to_str); the FOE/FRI bits taken in place */
+    uint8_t err;      /**< extended range: the range is in the reserved expansion field (octet 2) */
+    uint8_t xpp;      /**< X-pulse present (octet 2) */
+    uint8_t ext1_present;         /**< the item holds octet 2 */
+    uint8_t ext2_present;         /**< the item holds octet 3 */
+    AstItem048_020Element adsb;   /**< on-site ADS-B information available */
+    AstItem048_020Element scn;    /**< surveillance cluster network information available */
+    AstItem048_020Element pai;    /**< passive acquisition interface information available */
+    uint8_t ext3_present;         /**< the item holds octet 4 */
+    AstItem048_020Element acasxv; /**< ACAS extended version, val 0..15: 0 not extended, 1 Xa, 2 Xu */
+    AstItem048_020Element poxpr;  /**< transponder supports phase overlay */
+    uint8_t ext4_present;         /**< the item holds octet 5 */
+    AstItem048_020Element poact;  /**< phase overlay active for this plot */
+    AstItem048_020Element dtfxpr; /**< transponder supports basic dataflash */
+    AstItem048_020Element dtfact; /**< basic dataflash active for this plot */
+    uint8_t ext5_present;         /**< the item holds octet 6 */
+    AstItem048_020Element irmxpr; /**< transponder is IRM capable */
+    AstItem048_020Element irmact; /**< IRM active for this plot */
 } AstItem048_020;
 
 /** Defaults: rdp 1, all else 0. */
 KOVREL_API void ast_dataitem_048_020_init(AstItem048_020 *out);
-/** Decodes the span item into *out; the defaults when it is not a readable I048/020. */
+/**
+ * Decodes the span item into *out; the defaults when it is not a readable
+ * I048/020. The item's length, not its FX bits, says which octets are there;
+ * octets after the sixth are not read.
+ */
 KOVREL_API void ast_dataitem_048_020_decode(AstItem048_020 *out, const AstDataItem *item);
 /**
- * Octet 2 is written only when tst, me, mi or foe_fri is set. Fails when typ
- * is above 7, rdp is not 1 or 2, or foe_fri is not 0 or 2 (the IFF statuses
- * decoding yields).
+ * Writes octet 1 and every octet up to the last one that is present or has
+ * something to say: octet 2 when ext1_present or tst, err, xpp, me, mi or
+ * foe_fri is set, octets 3 to 6 when their extN_present is set (octets in
+ * between are written as well, their fields as they stand). FX bits follow.
+ * Flags are written as set when non-zero. Fails when typ is above 7, rdp is
+ * not 1 or 2, foe_fri is not 0 or 2 (the IFF statuses decoding yields), or
+ * acasxv.val is above 15.
  */
 KOVREL_API void ast_dataitem_048_020_encode(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem048_020 *in);
 /** "TYPE:%s" (TYPE:NO_DETECTION ... TYPE:PSR+ROLL_CALL), " SIM", " CHN1" or " CHN2", " SPI", " RAB",
@@ -305,7 +373,10 @@ KOVREL_API void ast_dataitem_048_110_get_detail_html(char *buffer, size_t size, 
 KOVREL_API void ast_dataitem_048_110_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
                                                const AstDataItem *item);
 
-/** I048/170 Track Status (first octet). Defaults: rad 3, cdm 3. */
+/**
+ * I048/170 Track Status. Defaults: rad 3, cdm 3. The members after cdm were
+ * added later and decode the extension octet (octet 2).
+ */
 typedef struct AstItem048_170 {
     uint8_t valid;
     uint8_t cnf;  /**< tentative track */
@@ -315,15 +386,24 @@ typedef struct AstItem048_170 {
     uint8_t mah;  /**< manoeuvre detected */
     uint8_t pad2; /**< always 0 */
     uint32_t cdm; /**< climbing/descending mode: 0 level, 1 climbing, 2 descending, 3 unknown */
+    uint8_t ext_present; /**< the item holds octet 2 */
+    uint8_t tre; /**< end of track: the last report of this track */
+    uint8_t gho; /**< ghost target track */
+    uint8_t sup; /**< track maintained with information from a neighbouring node of the cluster */
+    uint8_t tcc; /**< slant range correction and a projection applied: tracking in a 2D plane */
 } AstItem048_170;
 
 /** Defaults: rad 3, cdm 3, all else 0. */
 KOVREL_API void ast_dataitem_048_170_init(AstItem048_170 *out);
-/** Decodes the span item into *out; the defaults when it is not a readable I048/170. */
+/**
+ * Decodes the span item into *out; the defaults when it is not a readable
+ * I048/170. Octet 2, when the item holds it, gives ext_present 1 and TRE,
+ * GHO, SUP, TCC; octets after it are not read.
+ */
 KOVREL_API void ast_dataitem_048_170_decode(AstItem048_170 *out, const AstDataItem *item);
-/** "TYPE:CMB", "TYPE:PSR", "TYPE:SSR" or "TYPE:INVALID" after RAD. An extension octet is ignored. */
+/** "TYPE:CMB", "TYPE:PSR", "TYPE:SSR" or "TYPE:INVALID" after RAD. The extension octet is not shown. */
 KOVREL_API void ast_dataitem_048_170_get_summary(char *buffer, size_t size, const AstDataItem *item);
-/** Detail table: CNF, RAD, DOU, MAH, CDM. */
+/** Detail table: CNF, RAD, DOU, MAH, CDM (the extension octet is not shown). */
 KOVREL_API void ast_dataitem_048_170_get_detail_html(char *buffer, size_t size, const AstDataItem *item);
 /** Structured decode into storage (an AstItem048_170). */
 KOVREL_API void ast_dataitem_048_170_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
@@ -367,6 +447,7 @@ typedef struct AstItem048_230 {
     uint8_t aic;   /**< aircraft identification capability */
     uint8_t b1a;   /**< BDS 1,0 bit 16 */
     uint8_t b1b;   /**< BDS 1,0 bits 37-40 */
+    uint8_t si;    /**< 1: the transponder is II code capable, 0: SI code capable (added later) */
 } AstItem048_230;
 
 /** Defaults: com 7, stat 8, all else 0. */
@@ -377,7 +458,7 @@ KOVREL_API void ast_dataitem_048_230_decode(AstItem048_230 *out, const AstDataIt
  * Like decoding, it logs "I048/230: Communication Capability Undefined." and
  * "I048/230: Flight Status Undefined." at WARNING for undefined codes. */
 KOVREL_API void ast_dataitem_048_230_get_summary(char *buffer, size_t size, const AstDataItem *item);
-/** Detail table: COM, STAT, MSSC, ARC, AIC, B1A, B1B. */
+/** Detail table: COM, STAT, MSSC, ARC, AIC, B1A, B1B (SI is not shown). */
 KOVREL_API void ast_dataitem_048_230_get_detail_html(char *buffer, size_t size, const AstDataItem *item);
 /** Structured decode into storage (an AstItem048_230). */
 KOVREL_API void ast_dataitem_048_230_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
@@ -412,21 +493,67 @@ typedef struct AstItem048_130 {
     uint32_t srr; /**< number of received replies */
     uint8_t sam_present;
     int32_t sam; /**< amplitude of the (M)SSR reply, dBm */
+    /* The primary plot subfields, added later. */
+    uint8_t prl_present;
+    uint32_t prl_raw;
+    double prl; /**< primary plot runlength, degrees (LSB 360/2^13) */
+    uint8_t pam_present;
+    int32_t pam; /**< amplitude of the primary plot, dBm */
+    uint8_t rpd_present;
+    int32_t rpd_raw;
+    double rpd; /**< range of the PSR plot minus range of the SSR plot, NM (LSB 1/256) */
+    uint8_t apd_present;
+    int32_t apd_raw;
+    double apd; /**< azimuth of the PSR plot minus azimuth of the SSR plot, degrees (LSB 360/2^14) */
 } AstItem048_130;
 
 /** The empty form: no subfields, valid 0. */
 KOVREL_API void ast_dataitem_048_130_init(AstItem048_130 *out);
 /**
- * Splits the span item into its subfields and decodes SRL, SRR and SAM, each
- * present only when its bit is set and its span was delimited. The empty form
- * when the span is not a valid I048/130 or does not split. The item's summary
- * and detail view are the generic compound ones; its subfield summaries
- * (ast_subfield_048_130_get_summary) are "%.2f LSB=DEG" (SRL), "%d" (SRR),
- * "%d LSB=DBM" (SAM) and "NOT_IMPLEMENTED" for the other subfields.
+ * Splits the span item into its subfields and decodes SRL, SRR, SAM, PRL,
+ * PAM, RPD and APD (the signed ones in two's complement), each present only
+ * when its bit is set and its one-octet span was delimited. The empty form
+ * when the span is not a valid I048/130 or does not split. The item's
+ * summary and detail view are the generic compound ones; its subfield
+ * summaries (ast_subfield_048_130_get_summary) are "%.2f LSB=DEG" (SRL),
+ * "%d" (SRR), "%d LSB=DBM" (SAM) and "NOT_IMPLEMENTED" for the primary plot
+ * subfields, whose values only the decoded structure gives.
  */
 KOVREL_API void ast_dataitem_048_130_decode(AstItem048_130 *out, const AstDataItem *item);
 /** Structured decode into storage (an AstItem048_130). */
 KOVREL_API void ast_dataitem_048_130_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/**
+ * I048/120 Radial Doppler Speed: the subfields and their values. The raw
+ * Doppler speed subfield is taken as one block of 7 octets, as the item's
+ * size rule delimits it: its repetition factor and the first repetition.
+ */
+typedef struct AstItem048_120 {
+    uint32_t valid;
+    AstSubfieldList subfields;
+    uint8_t cal_present;
+    uint8_t d;       /**< the calculated Doppler speed is doubtful */
+    int32_t cal;     /**< calculated Doppler speed, m/s (10-bit two's complement) */
+    uint8_t rds_present;
+    uint32_t rep;    /**< repetition factor as sent (only the first repetition is decoded) */
+    uint32_t dop;    /**< Doppler speed, m/s */
+    uint32_t amb;    /**< ambiguity range, m/s */
+    uint32_t frq;    /**< transmitter frequency, MHz */
+} AstItem048_120;
+
+/** The empty form: no subfields, valid 0. */
+KOVREL_API void ast_dataitem_048_120_init(AstItem048_120 *out);
+/**
+ * Splits the span item into its subfields and decodes CAL (2 octets) and RDS
+ * (7 octets), each present only when its bit is set and its span was
+ * delimited with that length. The empty form when the span is NULL, not
+ * valid, of another identifier or does not split. The item's summary and
+ * detail view are the generic compound ones; its subfields have no summary.
+ */
+KOVREL_API void ast_dataitem_048_120_decode(AstItem048_120 *out, const AstDataItem *item);
+/** Structured decode into storage (an AstItem048_120). */
+KOVREL_API void ast_dataitem_048_120_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
                                                const AstDataItem *item);
 
 /**

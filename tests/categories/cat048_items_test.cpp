@@ -234,10 +234,12 @@ TEST(Cat048Items, EncodeDecodeRoundTrips) {
 }
 
 TEST(Cat048Items, TrackStatusHeightAndWarnings) {
-    // An extension octet changes nothing.
+    // The extension octet leaves the first octet's fields as they were.
     const AstItem048_170 one = decoded(ast_dataitem_048_170_decode, Octets{0xDC}, 48170);
     const AstItem048_170 ext = decoded(ast_dataitem_048_170_decode, Octets{0xDD, 0xFE}, 48170);
-    EXPECT_EQ(std::memcmp(&one, &ext, sizeof one), 0);
+    EXPECT_EQ(std::memcmp(&one, &ext, offsetof(AstItem048_170, ext_present)), 0);
+    EXPECT_TRUE(one.ext_present == 0 && one.tre + one.gho + one.sup + one.tcc == 0);
+    EXPECT_TRUE(ext.ext_present == 1 && ext.tre + ext.gho + ext.sup + ext.tcc == 4);
     EXPECT_TRUE(one.valid == 1 && one.cnf + one.dou + one.mah == 3 && one.rad == 2 && one.cdm == 2);
     EXPECT_EQ(text(ast_dataitem_048_170_get_summary, span(Octets{0xDD, 0xFE}, 48170)), "TYPE:SSR");
     const AstItem048_170 none = decoded(ast_dataitem_048_170_decode, Octets{}, 48170);
