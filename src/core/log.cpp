@@ -3,6 +3,7 @@
 #include <cstdarg>
 #include <cstdio>
 
+#include "core/format.h"
 #include "core/state.h"
 #include "core/text.h"
 
@@ -37,7 +38,7 @@ KOVREL_API void ast_log(uint32_t level, const char *format, ...) {
     if (format) {
         va_list ap;
         va_start(ap, format);
-        std::vsnprintf(text, sizeof text, format, ap);
+        kovrel::vformat_into(text, sizeof text, format, ap);
         va_end(ap);
     }
     text[sizeof text - 1] = '\0';

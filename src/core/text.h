@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "core/format.h"
+
 namespace kovrel {
 
 class TextWriter {
@@ -59,7 +61,7 @@ public:
     void vappendf(const char *format, va_list ap) {
         if (size_ == 0) return;
         size_t room = size_ - len_;
-        int n = std::vsnprintf(buf_ + len_, room, format, ap);
+        int n = vformat_into(buf_ + len_, room, format, ap);
         if (n < 0) {
             buf_[len_] = '\0';
             return;

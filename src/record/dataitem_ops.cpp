@@ -1,11 +1,17 @@
 // Generic operations over any data item, through its dispatch record.
+#include <cstring>
+
 #include "core/state.h"
 #include "core/text.h"
 #include "kovrel/codec.h"
 #include "kovrel/html.h"
+#include "record/dispatch.h"
 #include "record/item_table.h"
 
 namespace {
+
+// Written before an item's own summary, which may leave it standing.
+constexpr char kNotImplemented[] = "NOT_IMPLEMENTED";
 
 AstDataItemFuncs funcs_of(AstItemId id) {
     AstDataItemFuncs f;
@@ -87,11 +93,19 @@ KOVREL_API const char *ast_dataitem_get_name(AstItemId id) {
     return f.get_name ? f.get_name(id) : "UNKNOWN NAME";
 }
 
+// Called once per item when a recording is listed: one row look-up, no copy
+// of the function set.
 KOVREL_API void ast_dataitem_get_summary(char *buffer, size_t size, const AstDataItem *item) {
-    ast_strncpy(buffer, "NOT_IMPLEMENTED", size);
-    if (!buffer || size == 0 || !item || item->valid != 1) return;
-    const AstDataItemFuncs f = funcs_of(item->id);
-    if (f.get_summary) f.get_summary(buffer, size, item);
+    if (!buffer || size == 0) return;
+    if (size >= sizeof kNotImplemented) {
+        std::memcpy(buffer, kNotImplemented, sizeof kNotImplemented);
+    } else {
+        std::memcpy(buffer, kNotImplemented, size - 1);
+        buffer[size - 1] = '\0';
+    }
+    if (!item || item->valid != 1) return;
+    const kovrel::ItemRow *row = kovrel::find_item_row_reported(item->id);
+    if (row && row->get_summary) row->get_summary(buffer, size, item);
 }
 
 KOVREL_API void ast_dataitem_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {

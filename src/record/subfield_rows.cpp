@@ -17,7 +17,7 @@ const SubfieldRow *row_of(const CompoundItem &c, AstItemId item, uint32_t subfie
 AstSubfieldFuncs compound_funcs(const CompoundItem &c) {
     AstSubfieldFuncs funcs = c.funcs;
     bool summary = false, detail = false;
-    for (size_t i = 0; i < c.row_count; ++i) {
+    for (size_t i = 0; i < c.row_count && !(summary && detail); ++i) {
         summary = summary || c.rows[i].get_summary != nullptr;
         detail = detail || c.rows[i].get_detail_html != nullptr;
     }

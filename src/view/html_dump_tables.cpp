@@ -1,7 +1,5 @@
 // Octet dumps for detail views: a hexadecimal table (16 octets a row) and a
 // bit table (4 octets a row, one cell per bit).
-#include <cstdio>
-
 #include "core/text.h"
 #include "kovrel/html.h"
 #include "view/html_state.h"
@@ -38,12 +36,10 @@ KOVREL_API void ast_html_gen_hex_table(char *dst, size_t size, const uint8_t *oc
         w.append("<tr>");
         for (size_t col = 0; col < kovrel::kHexPerRow; ++col) {
             const size_t i = row * kovrel::kHexPerRow + col;
-            char cell[16];
             if (i < count)
-                std::snprintf(cell, sizeof cell, "<td>%.2X</td>", static_cast<unsigned>(octets[i]));
+                w.appendf("<td>%.2X</td>", static_cast<unsigned>(octets[i]));
             else
-                std::snprintf(cell, sizeof cell, "<td>--</td>");
-            w.append(cell);
+                w.append("<td>--</td>");
         }
         w.append("</tr>");
     }
@@ -65,13 +61,10 @@ KOVREL_API void ast_html_gen_bin_table(char *dst, size_t size, const uint8_t *oc
         // Caption: the 1-based number and value of each octet of the row.
         w.append("<tr class=\"caption_row\">");
         for (size_t i = first; i < first + kovrel::kBinPerRow; ++i) {
-            char caption[64];
             if (i < count)
-                std::snprintf(caption, sizeof caption, "<th colspan=8>Octet %zu - %.2X</th>", i + 1,
-                              static_cast<unsigned>(octets[i]));
+                w.appendf("<th colspan=8>Octet %zu - %.2X</th>", i + 1, static_cast<unsigned>(octets[i]));
             else
-                std::snprintf(caption, sizeof caption, "<th colspan=8>Octet %zu - --</th>", i + 1);
-            w.append(caption);
+                w.appendf("<th colspan=8>Octet %zu - --</th>", i + 1);
         }
         w.append("</tr>");
 
@@ -79,12 +72,10 @@ KOVREL_API void ast_html_gen_bin_table(char *dst, size_t size, const uint8_t *oc
         w.append("<tr class=\"data_row\">");
         for (size_t i = first; i < first + kovrel::kBinPerRow; ++i) {
             for (int bit = 7; bit >= 0; --bit) {
-                char cell[16];
                 if (i < count)
-                    std::snprintf(cell, sizeof cell, "<td>%d</td>", (octets[i] >> bit) & 1);
+                    w.append((octets[i] >> bit) & 1 ? "<td>1</td>" : "<td>0</td>");
                 else
-                    std::snprintf(cell, sizeof cell, "<td>-</td>");
-                w.append(cell);
+                    w.append("<td>-</td>");
             }
         }
         w.append("</tr>");

@@ -1,0 +1,30 @@
+// printf-style formatting into caller buffers, without the C library's
+// stream machinery.
+//
+// Summaries are built from a handful of short formats ("SAC:%03d SIC:%03d",
+// "X:%.1f Y:%.1f LSB:M"), and vsnprintf spends most of its time setting up a
+// string stream around them. These functions write the same characters as
+// the C library does in the "C" locale for the conversions the library
+// uses: d i u o x X c s f F and %%, with the flags - + space # 0, a width and
+// a precision of at most 64 given as digits or as '*', and the length
+// modifiers hh h l ll z (l also for f). Any other format (%e, %g, %p, %n,
+// %ls, positional arguments, larger widths, ...) is handed to vsnprintf
+// whole, so every format keeps working. The decimal point of %f is always
+// '.', whatever the locale.
+//
+// The contract is vsnprintf's: at most size-1 characters and a NUL are
+// written when size > 0, nothing at all when size is 0 (buffer may then be
+// null), and the result is the length the whole text has, or -1 when that
+// length does not fit an int.
+#pragma once
+
+#include <cstdarg>
+#include <cstddef>
+
+namespace kovrel {
+
+int vformat_into(char *buffer, size_t size, const char *format, va_list ap);
+
+int format_into(char *buffer, size_t size, const char *format, ...) __attribute__((format(printf, 3, 4)));
+
+}  // namespace kovrel
