@@ -33,7 +33,9 @@ struct Leaves {
 
 int collect(void *context, const AstField *f) {
     auto &l = *static_cast<Leaves *>(context);
-    if (f->depth != l.depth) __builtin_trap();
+    // An END field stands at the depth of its BEGIN.
+    const bool closes = f->kind == AST_FIELD_GROUP_END || f->kind == AST_FIELD_ARRAY_END;
+    if (f->depth + (closes ? 1 : 0) != l.depth) __builtin_trap();
     if (f->kind == AST_FIELD_GROUP_BEGIN || f->kind == AST_FIELD_ARRAY_BEGIN) {
         if (l.depth >= 16) __builtin_trap();
         if (l.in_array > 0 || f->kind == AST_FIELD_ARRAY_BEGIN || !f->name) ++l.in_array;
