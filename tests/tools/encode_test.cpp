@@ -1,15 +1,18 @@
-// `kovrel encode`: JSON objects to item values, lines to blocks, and the
-// blocks back through the decoder.
+// `kovrel encode`: JSON Lines to blocks, from record fields and from items
+// given by their named fields or their octets.
 #ifdef KOVREL_HAVE_TOOL_CORE
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
+#include <memory>
 #include <set>
 
 #include "encode_json.h"
 #include "encoder.h"
+#include "profiles.h"
 #include "sample.h"
 #include "tools/decoded.h"
 
@@ -41,10 +44,31 @@ Encoded encode(const std::string &text, size_t block_records = 64) {
 
 std::string record_line(const std::string &fields) { return R"({"cat":48,"fields":)" + fields + "}\n"; }
 
-std::set<uint32_t> item_ids(const RecordRequest &r) {
-    std::set<uint32_t> ids;
-    for (uint64_t i = 0; i < r.input.item_count; ++i) ids.insert(r.input.items[i].id);
-    return ids;
+// Octets as upper-case hexadecimal pairs separated by blanks.
+std::string hex(const uint8_t *data, size_t n) {
+    std::string s;
+    char two[4];
+    for (size_t i = 0; i < n; ++i) {
+        std::snprintf(two, sizeof two, i ? " %02X" : "%02X", data[i]);
+        s += two;
+    }
+    return s;
+}
+std::string hex(const Octets &o) { return hex(o.data(), o.size()); }
+
+// The blocks written back to back, each as its octets.
+std::vector<Octets> split_blocks(const Octets &blocks) {
+    std::vector<Octets> out;
+    for (size_t at = 0; at + 3 <= blocks.size();) {
+        const size_t length = static_cast<size_t>(blocks[at + 1]) << 8 | blocks[at + 2];
+        if (length < 3 || at + length > blocks.size()) {
+            ADD_FAILURE() << "block at " << at << " claims " << length << " octets";
+            break;
+        }
+        out.emplace_back(blocks.begin() + static_cast<ptrdiff_t>(at), blocks.begin() + static_cast<ptrdiff_t>(at + length));
+        at += length;
+    }
+    return out;
 }
 
 // The fields of each record decoded from the blocks, without the message
@@ -59,85 +83,213 @@ std::vector<json> fields_back(const Octets &blocks) {
     return out;
 }
 
+const char *const kGoodLine = R"({"cat":48,"items":[{"id":"I048/010","hex":"19 0D"}]})";
+const char *const kGoodBlock = "30 00 06 80 19 0D";
+
 }  // namespace
 
-TEST(ToolEncode, FieldsBecomeItemValues) {
-    RecordRequest r;
-    std::string error;
-    ASSERT_TRUE(record_from_json(json::parse(record_line(R"({"sac":25,"sic":1,"tod":"12:34:56.787","fl":35010,
-        "rho":12.5,"theta":-90,"mode3a":"5077","icao":"3c654a","callsign":"DLH123","track":4095,"speed":420,
-        "heading":360})")),
-                                 r, error))
-        << error;
-    const AstRecord048 &v = r.values;
-    EXPECT_EQ(r.input.category, 48u);
-    EXPECT_EQ(item_ids(r), (std::set<uint32_t>{48010, 48140, 48020, 48040, 48070, 48090, 48220, 48240, 48161, 48200}));
-    EXPECT_EQ(v.i010.sac, 25u);
-    EXPECT_EQ(v.i010.sic, 1u);
-    EXPECT_EQ(v.i140.raw, 5797989u);  // 45296.787 s x 128 = 5797988.736, rounded
-    EXPECT_EQ(v.i090.flight_level, 1400);  // 35010 ft: the nearest quarter FL is 350
-    EXPECT_EQ(v.i040.rho_raw, 3200u);
-    EXPECT_EQ(v.i040.theta_raw, 49152u);  // -90 is 270 degrees
-    EXPECT_EQ(v.i070.code, 05077u);
-    EXPECT_EQ(v.i220.address, 0x3C654Au);
-    EXPECT_STREQ(v.i240.chars, "DLH123");
-    EXPECT_EQ(v.i161.number, 4095u);
-    EXPECT_EQ(v.i200.speed_raw, 1911);  // 420 kt / (3600/16384 kt) = 1911.47
-    EXPECT_EQ(v.i200.heading_raw, 0);   // 360 is 0
-    EXPECT_EQ(v.i020.typ, 5u);          // Mode S roll-call: there is an address
-
-    // Without an address SSR; an explicit TYP wins. Keys the decoder shows
-    // but CAT048 items cannot carry are left out.
-    ASSERT_TRUE(record_from_json(json::parse(record_line(R"({"sac":1,"sic":2,"msgtype":"Track","sel_alt":9000,
-        "lat":1,"lon":2,"vx":3,"vy":4,"vrate":5})")),
-                                 r, error))
-        << error;
-    EXPECT_EQ(item_ids(r), (std::set<uint32_t>{48010, 48020}));
-    EXPECT_EQ(r.values.i020.typ, 2u);
-    ASSERT_TRUE(record_from_json(json::parse(record_line(R"({"sac":1,"sic":2,"icao":"1","typ":1})")), r, error));
-    EXPECT_EQ(r.values.i020.typ, 1u);
-    EXPECT_EQ(r.values.i220.address, 1u);
+TEST(ToolEncode, RecordFieldsBecomeItems) {
+    // CAT048 FRNs: 1 010, 2 140, 3 020, 4 040, 5 070, 6 090, 7 130; 8 220,
+    // 9 240, 10 250, 11 161, 12 042, 13 200.
+    const struct {
+        const char *fields;
+        const char *block;
+    } cases[] = {
+        // TYP 2 (single SSR detection) without an address, chain 1.
+        {R"({"sac":25,"sic":1})", "30 00 07 A0 19 01 40"},
+        // Every item; TYP 5 (Mode S roll-call) with an address. TOD
+        // 45296.789 s = 5797989/128; RHO 3200/256; THETA 8192 x 360/65536;
+        // FL 1400 quarters; callsign in six-bit characters; speed 1911 x
+        // 2^-14 NM/s; heading 90 degrees.
+        {R"({"sac":25,"sic":1,"tod":"12:34:56.789","rho":12.5,"theta":45,"mode3a":"5077","fl":35000,)"
+         R"("icao":"3c654a","callsign":"DLH123","track":77,"speed":420,"heading":90})",
+         "30 00 22 FD D4 19 01 58 78 65 A0 0C 80 20 00 0A 3F 05 78 3C 65 4A 10 C2 31 CB 38 20 00 4D 07 77 40 00"},
+        // Values between steps go to the nearest step; -90 degrees is 270;
+        // -1010 ft is -40 quarters in 14 bits; TYP as given.
+        {R"({"sac":1,"sic":2,"typ":1,"tod":1.0,"rho":0.001,"theta":-90,"fl":-1010})",
+         "30 00 10 F4 01 02 00 00 80 20 00 00 C0 00 3F D8"},
+        // What the decoder shows but no CAT048 item carries is left out, a
+        // heading alone too.
+        {R"({"sac":1,"sic":2,"heading":90,"msgtype":"Track","sel_alt":9000,"lat":1,"lon":2,"vx":3,"vy":4,"vrate":5})",
+         "30 00 07 A0 01 02 40"},
+    };
+    for (const auto &c : cases) {
+        const Encoded e = encode(record_line(c.fields));
+        EXPECT_EQ(e.messages, "") << c.fields;
+        EXPECT_EQ(hex(e.blocks), c.block) << c.fields;
+    }
 }
 
-TEST(ToolEncode, RefusesWhatCannotBeARecord) {
+TEST(ToolEncode, ItemsByFieldsAndByOctets) {
+    const struct {
+        const char *line;
+        const char *block;
+    } cases[] = {
+        // FRN order whatever the list order; keys besides id, fields and hex
+        // are ignored; the id in any case.
+        {R"({"cat":48,"items":[{"id":"I048/020","hex":"40"},{"id":"i048/010","name":"Data Source Identifier",)"
+         R"("len":2,"summary":"SAC:025 SIC:013","fields":{"sac":25,"sic":13}}]})",
+         "30 00 07 A0 19 0D 40"},
+        // Fields win over octets.
+        {R"({"cat":48,"items":[{"id":"I048/010","fields":{"sac":25,"sic":13},"hex":"01 02"}]})", kGoodBlock},
+        // Octets without blanks, in either case.
+        {R"({"cat":48,"items":[{"id":"I048/010","hex":"190d"},{"id":"I048/040","hex":"0c8020AB"}]})",
+         "30 00 0A 90 19 0D 0C 80 20 AB"},
+        // Reals, an integer for a real.
+        {R"({"cat":48,"items":[{"id":"I048/010","hex":"19 0D"},{"id":"I048/040","fields":{"rho":12.5,"theta":45}}]})",
+         "30 00 0A 90 19 0D 0C 80 20 00"},
+        // An enumeration by its code, flags as booleans and numbers, a field
+        // that brings its extension octet, a null that leaves its group out.
+        {R"({"cat":48,"items":[{"id":"I048/010","hex":"19 0D"},{"id":"I048/020","fields":{"typ":5,"sim":true,)"
+         R"("rdp":2,"spi":0,"rab":false,"tst":true,"mi":1,"adsb":{"ep":null}}}]})",
+         "30 00 08 A0 19 0D B9 88"},
+        // A Mode 3/A code as octal digits (CAT062 FRN 1 and 9).
+        {R"({"cat":62,"items":[{"id":"I062/010","hex":"19 64"},{"id":"I062/060","fields":{"v":0,"g":0,"ch":0,)"
+         R"("mode3a":"7700"}}]})",
+         "3E 00 09 81 40 19 64 0F C0"},
+        {R"({"cat":62,"items":[{"id":"I062/010","hex":"19 64"},{"id":"I062/060","fields":{"mode3a":"17"}}]})",
+         "3E 00 09 81 40 19 64 00 0F"},
+        // An address as hexadecimal digits, an identification as text (CAT021
+        // FRN 1, 5 and 18).
+        {R"({"cat":21,"items":[{"id":"I021/010","hex":"19 32"},{"id":"I021/080","fields":{"aa":"3c654a"}}]})",
+         "15 00 09 88 19 32 3C 65 4A"},
+        {R"({"cat":21,"items":[{"id":"I021/010","hex":"19 32"},{"id":"I021/170","fields":{"acid":"DLH123"}}]})",
+         "15 00 0E 81 01 10 19 32 10 C2 31 CB 38 20"},
+        // A category without structured encoders, in a variant profile: the
+        // plot profile has I001/040 at FRN 3.
+        {R"({"cat":1,"uap":"cat001_plot","items":[{"id":"I001/010","hex":"19 02"},{"id":"I001/020","hex":"20"},)"
+         R"({"id":"I001/040","hex":"0C 80 20 00"}]})",
+         "01 00 0B E0 19 02 20 0C 80 20 00"},
+        // Items win over record fields; with items, I048/020 comes from the
+        // fields only with typ.
+        {R"({"cat":48,"fields":{"sac":1,"sic":2,"tod":1},"items":[{"id":"I048/010","fields":{"sac":25,"sic":13}}]})",
+         "30 00 09 C0 19 0D 00 00 80"},
+        {R"({"cat":48,"fields":{"typ":1},"items":[{"id":"I048/010","hex":"19 0D"}]})", "30 00 07 A0 19 0D 20"},
+        {R"({"cat":48,"fields":{"tod":1},"items":[{"id":"I048/020","hex":"40"}]})", "30 00 08 60 00 00 80 40"},
+    };
+    for (const auto &c : cases) {
+        const Encoded e = encode(std::string(c.line) + "\n");
+        EXPECT_EQ(e.messages, "") << c.line;
+        EXPECT_EQ(hex(e.blocks), c.block) << c.line;
+    }
+    // A text takes octets as the decoder escapes them: U+00E9 is the octet
+    // E9, so eight of them fit the eight characters (nine do not).
+    const Encoded e = encode(R"({"cat":21,"items":[{"id":"I021/170","fields":{"acid":)"
+                             R"("\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9"}}]})");
+    EXPECT_EQ(e.messages, "");
+    EXPECT_EQ(e.counts.records, 1u);
+}
+
+TEST(ToolEncode, BadLinesSayWhereAndAreSkipped) {
+    auto items = [](const std::string &list) { return R"({"cat":48,"items":[)" + list + "]}"; };
+    const std::string dsi = R"({"id":"I048/010","fields":)";
+    const std::string descriptor = R"({"id":"I048/020","fields":)";
+    const std::string mode3a = R"({"cat":62,"items":[{"id":"I062/060","fields":{"mode3a":)";
+    const std::string address = R"({"cat":21,"items":[{"id":"I021/080","fields":{"aa":)";
     const std::pair<std::string, std::string> cases[] = {
+        // The object and its record fields.
         {R"([48])", "not a JSON object"},
         {R"({"fields":{"sac":1,"sic":2}})", "no cat"},
-        {R"({"cat":62,"fields":{"sac":1,"sic":2}})", "cat: category 62"},
-        {R"({"cat":48,"items":[]})", "no fields"},
+        {R"({"cat":48})", "no fields or items"},
+        {R"({"cat":48,"items":[]})", "no fields or items"},
+        {R"({"cat":99,"items":[]})", "cat: category 99 is not supported"},
+        {R"({"cat":62,"fields":{"sac":1,"sic":2}})", "cat: category 62 takes items (record fields are read for 48 only)"},
+        {R"({"cat":48,"uap":"nonesuch","fields":{"sac":1,"sic":2}})", "uap: no profile nonesuch"},
+        {R"({"cat":48,"fields":[1]})", "fields: not an object"},
         {record_line(R"({})"), "sac and sic are required"},
         {record_line(R"({"sic":1})"), "sac and sic go together"},
-        {record_line(R"({"sac":256,"sic":1})"), "sac: "},
-        {record_line(R"({"sac":1.5,"sic":1})"), "sac: "},
+        {record_line(R"({"sac":256,"sic":1})"), "sac: not a whole number from 0 to 255"},
+        {record_line(R"({"sac":1.5,"sic":1})"), "sac: not a whole number from 0 to 255"},
         {record_line(R"({"sac":1,"sic":1,"squawk":"1234"})"), "squawk: unknown field"},
-        {record_line(R"({"sac":1,"sic":1,"mode3a":"5078"})"), "mode3a: "},
+        {record_line(R"({"sac":1,"sic":1,"mode3a":"5078"})"), "mode3a: not 1 to 4 octal digits"},
         {record_line(R"({"sac":1,"sic":1,"mode3a":5077})"), "mode3a: not a string"},
-        {record_line(R"({"sac":1,"sic":1,"icao":"000000"})"), "icao: "},
-        {record_line(R"({"sac":1,"sic":1,"icao":"3C654AB"})"), "icao: "},
-        {record_line(R"({"sac":1,"sic":1,"callsign":"dlh123"})"), "callsign: "},
-        {record_line(R"({"sac":1,"sic":1,"callsign":"ABCDEFGHI"})"), "callsign: "},
-        {record_line(R"({"sac":1,"sic":1,"tod":"24:00:00"})"), "tod: "},
-        {record_line(R"({"sac":1,"sic":1,"tod":"12:34"})"), "tod: "},
-        {record_line(R"({"sac":1,"sic":1,"tod":"12:34:56."})"), "tod: "},
+        {record_line(R"({"sac":1,"sic":1,"icao":"000000"})"), "icao: 000000 cannot be written"},
+        {record_line(R"({"sac":1,"sic":1,"icao":"3C654AB"})"), "icao: not 1 to 6 hexadecimal digits"},
+        {record_line(R"({"sac":1,"sic":1,"callsign":"dlh123"})"), "callsign: not up to 8 characters A-Z, 0-9 or blank"},
+        {record_line(R"({"sac":1,"sic":1,"tod":"24:00:00"})"), "tod: not a time HH:MM:SS or HH:MM:SS.fff"},
+        {record_line(R"({"sac":1,"sic":1,"tod":"12:34:56."})"), "tod: not a time HH:MM:SS or HH:MM:SS.fff"},
         {record_line(R"({"sac":1,"sic":1,"tod":86400})"), "tod: not within the day"},
         {record_line(R"({"sac":1,"sic":1,"rho":1})"), "rho and theta go together"},
         {record_line(R"({"sac":1,"sic":1,"rho":256,"theta":0})"), "rho: out of range"},
         {record_line(R"({"sac":1,"sic":1,"fl":205000})"), "fl: out of range"},
         {record_line(R"({"sac":1,"sic":1,"fl":"350"})"), "fl: not a number"},
-        {record_line(R"({"sac":1,"sic":1,"track":4096})"), "track: "},
-        {record_line(R"({"sac":1,"sic":1,"typ":8})"), "typ: "},
+        {record_line(R"({"sac":1,"sic":1,"track":4096})"), "track: not a whole number from 0 to 4095"},
+        {record_line(R"({"sac":1,"sic":1,"typ":8})"), "typ: not a whole number from 0 to 7"},
         {record_line(R"({"sac":1,"sic":1,"speed":-1,"heading":0})"), "speed: out of range"},
         {record_line(R"({"sac":1,"sic":1,"speed":1})"), "speed needs heading"},
+        // The list and its objects.
+        {R"({"cat":48,"items":{}})", "items: not a list"},
+        {items("1"), "items[0]: not an object"},
+        {items(R"({"hex":"19 0D"})"), "items[0]: no id"},
+        {items(R"({"id":"I048/777","hex":"00"})"), "I048/777: not an item of CAT048 in profile standard"},
+        {items(R"({"id":"I062/010","hex":"19 0D"})"), "I062/010: not an item of CAT048 in profile standard"},
+        {items(R"({"id":"I048/010","hex":"19 0D"},{"id":"I048/010","hex":"19 0E"})"), "I048/010: given twice"},
+        {items(R"({"id":"I048/010"})"), "I048/010: neither fields nor hex"},
+        {items(R"({"id":"I048/250","fields":{}})"), "I048/250: the library cannot encode this item from fields; give its hex"},
+        {items(dsi + "[25]}"), "I048/010: fields is not an object"},
+        // Named fields.
+        {items(dsi + R"({"sac":25,"sic":13,"sacc":1}})"), "I048/010.sacc: unknown field"},
+        {items(dsi + R"({"sac":{"x":1}}})"), "I048/010.sac.x: unknown field"},
+        {items(descriptor + R"({"adsb":{"ep":1,"xx":1}}})"), "I048/020.adsb.xx: unknown field"},
+        {items(dsi + R"({"sac":"25"}})"), "I048/010.sac: wrong kind of value"},
+        {items(dsi + R"({"sac":1.5}})"), "I048/010.sac: wrong kind of value"},
+        {items(dsi + R"({"sac":[25]}})"), "I048/010.sac: wrong kind of value"},
+        {items(dsi + R"({"xyz":[1]}})"), "I048/010.xyz: unknown field"},
+        {items(descriptor + R"({"typ":"5"}})"), "I048/020.typ: wrong kind of value"},
+        {items(dsi + R"({"sac":256}})"), "I048/010.sac: value out of range"},
+        {items(dsi + R"({"sic":-1}})"), "I048/010.sic: value out of range"},
+        {items(descriptor + R"({"sim":2}})"), "I048/020.sim: value out of range"},
+        {mode3a + R"("7780"}}]})", "I062/060.mode3a: not octal digits"},
+        {mode3a + R"("10000"}}]})", "I062/060.mode3a: value out of range"},
+        {mode3a + R"("1111111111111111111111111"}}]})", "I062/060.mode3a: value out of range"},
+        {mode3a + R"(""}}]})", "I062/060.mode3a: not octal digits"},
+        {mode3a + R"(7700}}]})", "I062/060.mode3a: value out of range"},
+        {address + R"("3C654G"}}]})", "I021/080.aa: not hexadecimal digits"},
+        {address + R"("1000000"}}]})", "I021/080.aa: value out of range"},
+        // Nine octets for eight characters (see ItemsByFieldsAndByOctets).
+        {R"({"cat":21,"items":[{"id":"I021/170","fields":{"acid":"\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9\u00e9"}}]})",
+         "I021/170.acid: value out of range"},
+        // Values the encoder refuses: RHO beyond 16 bits, no RDP chain 0.
+        {items(R"({"id":"I048/040","fields":{"rho":256,"theta":0}})"), "I048/040: the library cannot encode these values"},
+        {items(descriptor + R"({"typ":2,"rdp":0}})"), "I048/020: the library cannot encode these values"},
+        // Octet 3 is written, but the item is delimited at octet 2.
+        {items(descriptor + R"({"typ":2,"adsb":{"ep":1}}})"), "I048/020: the library writes these values in 3 octets but reads 2 back"},
+        // Octets.
+        {items(R"({"id":"I048/250","hex":"zz"})"), "I048/250: bad hex: not hexadecimal digits"},
+        {items(R"({"id":"I048/250","hex":"C 00"})"), "I048/250: bad hex: an odd number of digits"},
+        {items(R"({"id":"I048/250","hex":" "})"), "I048/250: bad hex: no octets"},
+        {items(R"({"id":"I048/250","hex":250})"), "I048/250: bad hex: not a string"},
+        {items(R"({"id":"I048/010","hex":"19"})"), "I048/010: bad hex: 1 octet is not one I048/010"},
+        {items(R"({"id":"I048/010","hex":"19 0D 00"})"), "I048/010: bad hex: 3 octets are not one I048/010"},
+        // REP 1 announces eight octets.
+        {items(R"({"id":"I048/250","hex":"01 00 00 00 00 00 00 40"})"), "I048/250: bad hex: 8 octets are not one I048/250"},
     };
     for (const auto &[line, reason] : cases) {
-        RecordRequest r;
-        std::string error;
-        EXPECT_FALSE(record_from_json(json::parse(line), r, error)) << line;
-        EXPECT_EQ(error.rfind(reason, 0), 0u) << line << " -> " << error;
+        const Encoded e = encode(line + (line.back() == '\n' ? "" : "\n") + kGoodLine + "\n");
+        EXPECT_EQ(e.messages, "kovrel: in:1: " + reason + "\n") << line;
+        EXPECT_EQ(e.counts.bad, 1u) << line;
+        EXPECT_EQ(hex(e.blocks), kGoodBlock) << line;
+    }
+
+    // Lines that are not JSON, blank lines, and the count of each.
+    const Encoded e = encode(std::string(kGoodLine) + "\nnot json\n\n" + record_line(R"({"sac":1})") + kGoodLine);
+    EXPECT_EQ(e.counts.lines, 5u);
+    EXPECT_EQ(e.counts.bad, 2u);
+    EXPECT_EQ(e.counts.records, 2u);
+    EXPECT_EQ(e.messages.rfind("kovrel: in:2: not JSON: ", 0), 0u) << e.messages;
+    EXPECT_NE(e.messages.find("\nkovrel: in:4: sac and sic go together\n"), std::string::npos) << e.messages;
+    EXPECT_EQ(std::count(e.messages.begin(), e.messages.end(), '\n'), 2);
+    EXPECT_EQ(hex(e.blocks), "30 00 09 80 19 0D 80 19 0D");
+
+    // Nothing to write: no line, blank lines only, bad lines only.
+    for (const char *text : {"", "\n  \n", "{}\n[]\n"}) {
+        const Encoded none = encode(text);
+        EXPECT_EQ(none.counts.records, 0u) << text;
+        EXPECT_TRUE(none.blocks.empty()) << text;
     }
 }
 
-TEST(ToolEncode, RoundTripGivesTheFieldsBack) {
+TEST(ToolEncode, RecordFieldsComeBackFromTheDecoder) {
     const std::vector<std::string> exact = {
         R"({"sac":25,"sic":1,"tod":"12:34:56.789","mode3a":"5077","fl":35025,"icao":"3C654A","callsign":"DLH123",)"
         R"("track":77,"rho":12.50390625,"theta":45.0054931640625})",
@@ -155,30 +307,13 @@ TEST(ToolEncode, RoundTripGivesTheFieldsBack) {
     ASSERT_EQ(back.size(), 4u);
     for (size_t i = 0; i < exact.size(); ++i) EXPECT_EQ(back[i], json::parse(exact[i])) << i;
     EXPECT_EQ(back[3], json::parse(R"({"sac":7,"sic":9,"tod":"12:34:56.789","fl":35000,"rho":12.5,"theta":45.0})"));
-}
 
-TEST(ToolEncode, SpeedAndHeadingGoToTheVelocityItem) {
-    // The decoder has no CAT048 speed and reads headings from Mode S
-    // registers: I048/200 shows in the items only.
-    const Encoded e = encode(record_line(R"({"sac":1,"sic":2,"speed":420,"heading":90.001})") +
-                             record_line(R"({"sac":1,"sic":3,"heading":90})"));
-    EXPECT_EQ(e.messages, "");
-    const auto records = decode_json(e.blocks);
-    ASSERT_EQ(records.size(), 2u);
-    const auto &items = records[0]["items"];
-    ASSERT_EQ(items.size(), 3u);
-    EXPECT_EQ(items[2]["id"], "I048/200");
-    EXPECT_EQ(items[2]["hex"], "07 77 40 00");  // 1911 x 3600/16384 kt, 16384 x 360/65536 degrees
-    // A heading alone is left out.
-    ASSERT_EQ(records[1]["items"].size(), 2u);
-    EXPECT_EQ(records[1]["items"][1]["id"], "I048/020");
-}
-
-TEST(ToolEncode, SampleRecordsEncodeAgain) {
-    std::string text;
+    // The decoder's own lines of the sample encode again to the same fields.
+    text.clear();
     std::vector<json> originals;
     for (auto &record : decode_json(Octets(kSamplePcap, kSamplePcap + kSamplePcapSize)))
         if (record["cat"] == 48) {
+            record.erase("items");
             text += record.dump() + "\n";
             // Read from I048/250, which is not written.
             record["fields"].erase("sel_alt");
@@ -186,49 +321,168 @@ TEST(ToolEncode, SampleRecordsEncodeAgain) {
             originals.push_back(record["fields"]);
         }
     ASSERT_GT(originals.size(), 50u);
-    const Encoded e = encode(text);
-    EXPECT_EQ(e.messages, "");
-    const auto records = decode_json(e.blocks);
+    const Encoded sample = encode(text);
+    EXPECT_EQ(sample.messages, "");
+    const auto records = decode_json(sample.blocks);
     ASSERT_EQ(records.size(), originals.size());
     for (size_t i = 0; i < records.size(); ++i) EXPECT_EQ(records[i]["fields"], originals[i]) << i;
 }
 
-TEST(ToolEncode, BadLinesAreReportedAndSkipped) {
-    const Encoded e = encode(record_line(R"({"sac":1,"sic":1})") + "not json\n\n" + record_line(R"({"sac":1})") +
-                             R"({"cat":48,"fields":{"sac":1,"sic":5}})");
-    EXPECT_EQ(e.counts.lines, 5u);
-    EXPECT_EQ(e.counts.bad, 2u);
-    EXPECT_EQ(e.counts.records, 2u);
-    EXPECT_EQ(e.messages.rfind("kovrel: in:2: not JSON: ", 0), 0u) << e.messages;
-    EXPECT_NE(e.messages.find("\nkovrel: in:4: sac and sic go together\n"), std::string::npos) << e.messages;
-    EXPECT_EQ(std::count(e.messages.begin(), e.messages.end(), '\n'), 2);
-    const auto back = fields_back(e.blocks);
-    ASSERT_EQ(back.size(), 2u);
-    EXPECT_EQ(back[0]["sic"], 1);
-    EXPECT_EQ(back[1]["sic"], 5);
+namespace {
 
-    // Nothing to write: no line, blank lines only, bad lines only.
-    for (const char *text : {"", "\n  \n", "{}\n[]\n"}) {
-        const Encoded none = encode(text);
-        EXPECT_EQ(none.counts.records, 0u) << text;
-        EXPECT_TRUE(none.blocks.empty()) << text;
+// The UDP payloads of a classic little-endian pcap of Ethernet frames
+// carrying IPv4 (what the sample recording is).
+std::vector<Octets> udp_payloads(const uint8_t *pcap, size_t size) {
+    std::vector<Octets> out;
+    auto le32 = [&](size_t at) {
+        return static_cast<uint32_t>(pcap[at]) | static_cast<uint32_t>(pcap[at + 1]) << 8 |
+               static_cast<uint32_t>(pcap[at + 2]) << 16 | static_cast<uint32_t>(pcap[at + 3]) << 24;
+    };
+    if (size < 24 || le32(0) != 0xA1B2C3D4u || le32(20) != 1) {
+        ADD_FAILURE() << "not a little-endian Ethernet pcap";
+        return out;
+    }
+    for (size_t at = 24; at + 16 <= size;) {
+        const size_t captured = le32(at + 8);
+        const uint8_t *frame = pcap + at + 16;
+        at += 16 + captured;
+        if (at > size || captured < 14 + 20 + 8 || frame[12] != 0x08 || frame[13] != 0x00) continue;
+        const uint8_t *ip = frame + 14;
+        const size_t ip_header = (ip[0] & 0x0Fu) * 4u;
+        if (ip[9] != 17 || 14 + ip_header + 8 > captured) continue;
+        const uint8_t *udp = ip + ip_header;
+        const size_t udp_length = static_cast<size_t>(udp[4]) << 8 | udp[5];
+        if (udp_length < 8 || 14 + ip_header + udp_length > captured) continue;
+        out.emplace_back(udp + 8, udp + udp_length);
+    }
+    return out;
+}
+
+// True when the library's encoder writes the item's own decoded structure
+// back as the same octets. Only then can fields give the item back: what
+// the encoder cannot reproduce is its matter, not the field setter's.
+bool encoder_reproduces(const AstDataItem &item) {
+    const size_t size = ast_dataitem_fields_storage_size(item.id);
+    std::vector<std::max_align_t> storage(size / sizeof(std::max_align_t) + 1);
+    AstDataItemValue value;
+    ast_dataitem_decode(&value, storage.data(), size, &item);
+    if (value.valid != 1) return false;
+    std::vector<uint8_t> buffer(AST_DATABLOCK_MAX_LENGTH);
+    AstDataItem written;
+    ast_dataitem_encode(&written, buffer.data(), buffer.size(), &value);
+    return written.valid == 1 && written.length == item.length &&
+           std::equal(item.data, item.data + item.length, buffer.begin());
+}
+
+// The item objects of a decoded record: by fields where the library can
+// encode the item from them, else by its octets.
+struct ItemObjects {
+    json list = json::array();
+    size_t by_fields = 0;
+};
+
+ItemObjects item_objects(const AstDataRecord &record, bool fields_allowed) {
+    ItemObjects out;
+    for (uint64_t i = 0; i < record.item_count; ++i) {
+        const AstDataItem &item = record.items[i];
+        char id[16];
+        ast_dataitem_type_to_str(id, sizeof id, item.id);
+        json object = {{"id", id}};
+        std::string fields(256, '\0');
+        size_t need = ast_dataitem_get_fields_json(fields.data(), fields.size(), &item);
+        if (need >= fields.size()) {
+            fields.assign(need + 1, '\0');
+            need = ast_dataitem_get_fields_json(fields.data(), fields.size(), &item);
+        }
+        fields.resize(need);
+        const bool encodable = (ast_dataitem_get_capabilities(item.id) & AST_DATAITEM_CAP_ENCODE) != 0;
+        if (fields_allowed && encodable && need > 0 && encoder_reproduces(item)) {
+            object["fields"] = json::parse(fields);
+            ++out.by_fields;
+        } else {
+            std::string octets(static_cast<size_t>(item.length) * 3 + 1, '\0');
+            ast_dataitem_get_hex_str(octets.data(), octets.size(), &item);
+            object["hex"] = octets.c_str();
+        }
+        out.list.push_back(object);
+    }
+    return out;
+}
+
+}  // namespace
+
+TEST(ToolEncode, SampleRecordsComeBackFromTheirItems) {
+    // Every record of the sample, its items given by their fields where the
+    // library encodes them (and writes them back as they came) and by their
+    // octets otherwise, and then every item by its octets: each record is
+    // written again octet for octet.
+    const auto payloads = udp_payloads(kSamplePcap, kSamplePcapSize);
+    ASSERT_GT(payloads.size(), 20u);
+    auto block = std::make_unique<AstDataBlock>();
+    for (const bool fields_allowed : {true, false}) {
+        std::string lines;
+        std::vector<std::string> line_of;
+        std::vector<Octets> records;
+        std::set<uint32_t> categories;
+        size_t by_fields = 0;
+        for (const Octets &payload : payloads) {
+            for (size_t at = 0; at + 3 <= payload.size();) {
+                const size_t length = static_cast<size_t>(payload[at + 1]) << 8 | payload[at + 2];
+                ASSERT_GE(length, 3u);
+                ast_datablock_smart_decode_into(block.get(), payload.data() + at, payload.size() - at);
+                ASSERT_EQ(block->valid, 1) << "a sample block does not decode";
+                for (uint64_t r = 0; r < block->record_count; ++r) {
+                    const AstDataRecord &record = block->records[r];
+                    const ItemObjects items = item_objects(record, fields_allowed);
+                    by_fields += items.by_fields;
+                    const json line = {{"cat", record.category},
+                                       {"uap", profile_name(record.uap)},
+                                       {"items", items.list}};
+                    line_of.push_back(line.dump());
+                    lines += line_of.back() + "\n";
+                    records.emplace_back(record.data, record.data + record.length);
+                    categories.insert(record.category);
+                }
+                at += length;
+            }
+        }
+        EXPECT_EQ(categories, (std::set<uint32_t>{1, 2, 21, 34, 48, 62}));
+        if (fields_allowed)
+            EXPECT_GT(by_fields, records.size());
+        else
+            EXPECT_EQ(by_fields, 0u);
+
+        const Encoded e = encode(lines, 1);
+        EXPECT_EQ(e.messages, "");
+        const auto blocks = split_blocks(e.blocks);
+        ASSERT_EQ(blocks.size(), records.size());
+        for (size_t i = 0; i < records.size(); ++i)
+            EXPECT_EQ(hex(blocks[i].data() + 3, blocks[i].size() - 3), hex(records[i]))
+                << line_of[i];
     }
 }
 
 TEST(ToolEncode, GroupsRecordsIntoBlocks) {
+    // One block per run of a category, at most block_records records each.
     std::string text;
     for (int sic = 1; sic <= 70; ++sic) text += record_line(R"({"sac":1,"sic":)" + std::to_string(sic) + "}");
     for (size_t per_block : {64, 2}) {
         const Encoded e = encode(text, per_block);
         EXPECT_EQ(e.counts.blocks, (70 + per_block - 1) / per_block);
-        const auto records = decode_json(e.blocks);
-        ASSERT_EQ(records.size(), 70u);
-        for (size_t i = 0; i < records.size(); ++i) {
-            EXPECT_EQ(records[i]["block"], i / per_block + 1) << i;
-            EXPECT_EQ(records[i]["record"], i % per_block + 1) << i;
-            EXPECT_EQ(records[i]["fields"]["sic"], i + 1) << i;
+        EXPECT_EQ(e.counts.records, 70u);
+        const auto blocks = split_blocks(e.blocks);
+        ASSERT_EQ(blocks.size(), e.counts.blocks);
+        int sic = 0;
+        for (const Octets &b : blocks) {
+            ASSERT_EQ((b.size() - 3) % 4, 0u);  // A0 SAC SIC 40
+            EXPECT_LE((b.size() - 3) / 4, per_block);
+            for (size_t at = 3; at < b.size(); at += 4) EXPECT_EQ(b[at + 2], ++sic);
         }
+        EXPECT_EQ(sic, 70);
     }
+    const Encoded mixed = encode(std::string(kGoodLine) + "\n" + kGoodLine + "\n" +
+                                 R"({"cat":62,"items":[{"id":"I062/010","hex":"19 64"}]})" + "\n" + kGoodLine);
+    EXPECT_EQ(hex(mixed.blocks), "30 00 09 80 19 0D 80 19 0D 3E 00 06 80 19 64 30 00 06 80 19 0D");
 }
 
 TEST(ToolEncode, StopsWhenOutputFails) {

@@ -13,21 +13,6 @@
 namespace kovrel_tool {
 namespace {
 
-// Why the library refused a record: the first item it cannot write.
-std::string refusal(const RecordRequest &r) {
-    uint8_t scratch[256];
-    for (uint64_t i = 0; i < r.input.item_count; ++i) {
-        AstDataItem item;
-        ast_dataitem_encode(&item, scratch, sizeof scratch, &r.input.items[i]);
-        if (!item.valid) {
-            char id[16];
-            ast_dataitem_type_to_str(id, sizeof id, r.input.items[i].id);
-            return std::string("the library cannot encode ") + id;
-        }
-    }
-    return "the library cannot encode the record";
-}
-
 // The text of a parse error without the library's "[json.exception...] " prefix.
 std::string parse_error_text(const char *what) {
     std::string s = what;
@@ -35,60 +20,90 @@ std::string parse_error_text(const char *what) {
     return s[0] == '[' && close != std::string::npos ? s.substr(close + 2) : s;
 }
 
+// The most octets of one record: a block of that record alone.
+constexpr size_t kMaxRecord = AST_DATABLOCK_MAX_LENGTH - 3;
+
+// Writes the record of `request` into `out`: the FSPEC, then the items in
+// FRN order. False, with the reason in `error`, when the items do not make
+// a record of the profile.
+bool assemble_record(const RecordRequest &request, std::vector<uint8_t> &out, std::string &error,
+                     AstDataRecord &check) {
+    const uint32_t max = ast_uap_max_frn(&request.uap, request.category);
+    std::vector<const ItemOctets *> order;
+    uint8_t fspec[32] = {};  // 224 FRNs, more than any profile has
+    size_t fspec_length = 0;
+    for (uint32_t frn = 1; frn <= max; ++frn) {
+        const AstItemId id = ast_uap_get_dataitem(&request.uap, request.category, frn);
+        for (const ItemOctets &item : request.items) {
+            if (id == 0 || item.id != id) continue;
+            if (!ast_fspec_set(fspec, sizeof fspec, frn, true)) {
+                error = "the FSPEC of the record is too long";
+                return false;
+            }
+            fspec_length = (frn - 1) / 7 + 1;
+            order.push_back(&item);
+            break;
+        }
+    }
+    if (order.size() != request.items.size() || order.empty()) {
+        error = order.empty() ? "no item to write" : "an item is not in the profile";
+        return false;
+    }
+    for (size_t i = 0; i + 1 < fspec_length; ++i) fspec[i] = static_cast<uint8_t>(fspec[i] | 0x01u);
+    out.assign(fspec, fspec + fspec_length);
+    for (const ItemOctets *item : order) out.insert(out.end(), item->octets.begin(), item->octets.end());
+    if (out.size() > kMaxRecord) {
+        error = "the record is longer than a block can hold";
+        return false;
+    }
+    // Items the library encoded read back as what they are; a record that
+    // does not is refused rather than written.
+    ast_datarecord_decode(&check, out.data(), out.size(), request.category, &request.uap);
+    if (check.valid == 1 && check.length == out.size() && check.item_count == order.size()) return true;
+    error = "the library cannot read the record back";
+    return false;
+}
+
 class BlockWriter {
 public:
-    BlockWriter(std::FILE *out, std::FILE *messages, const std::string &name, size_t block_records,
-                EncodeCounts &counts)
-        : out_(out), messages_(messages), name_(name), limit_(block_records), counts_(counts),
-          input_(std::make_unique<AstDataBlockInput>()), block_(std::make_unique<AstDataBlock>()),
-          buffer_(AST_DATABLOCK_MAX_LENGTH) {}
+    BlockWriter(std::FILE *out, size_t block_records, EncodeCounts &counts)
+        : out_(out), limit_(block_records), counts_(counts) {}
 
-    // Takes a record whose encoded length is `length`.
-    void add(std::unique_ptr<RecordRequest> record, uint64_t length) {
-        if (!pending_.empty() && (pending_.front()->input.category != record->input.category ||
-                                  pending_.size() == limit_ || 3 + octets_ + length > AST_DATABLOCK_MAX_LENGTH))
+    void add(uint32_t category, std::vector<uint8_t> record) {
+        if (records_ > 0 && (category_ != category || records_ == limit_ ||
+                             block_.size() + record.size() > AST_DATABLOCK_MAX_LENGTH))
             flush();
-        octets_ += length;
-        pending_.push_back(std::move(record));
+        if (records_ == 0) {
+            block_.assign(3, 0);
+            block_[0] = static_cast<uint8_t>(category);
+            category_ = category;
+        }
+        block_.insert(block_.end(), record.begin(), record.end());
+        ++records_;
     }
 
     void flush() {
-        if (pending_.empty() || counts_.output_failed) return;
-        AstDataBlockInput &in = *input_;
-        in = {};
-        in.category = pending_.front()->input.category;
-        in.uap = pending_.front()->input.uap;
-        for (const auto &r : pending_) in.records[in.record_count++] = r->input;
-        ast_datablock_encode(block_.get(), buffer_.data(), buffer_.size(), &in);
-        // Each record was encoded alone before it came here and the block
-        // keeps to the limits: a refusal here is the library's.
-        if (!block_->valid) {
-            std::fprintf(messages_, "kovrel: %s: the library cannot encode a block of %zu records; they are lost\n",
-                         name_.c_str(), pending_.size());
+        if (records_ == 0 || counts_.output_failed) return;
+        block_[1] = static_cast<uint8_t>(block_.size() >> 8);
+        block_[2] = static_cast<uint8_t>(block_.size());
+        if (std::fwrite(block_.data(), 1, block_.size(), out_) != block_.size() || std::ferror(out_)) {
+            counts_.output_failed = true;
+            counts_.output_errno = errno ? errno : EIO;
         } else {
-            if (std::fwrite(block_->data, 1, block_->length, out_) != block_->length || std::ferror(out_)) {
-                counts_.output_failed = true;
-                counts_.output_errno = errno ? errno : EIO;
-            } else {
-                counts_.records += pending_.size();
-                ++counts_.blocks;
-            }
+            counts_.records += records_;
+            ++counts_.blocks;
         }
-        pending_.clear();
-        octets_ = 0;
+        records_ = 0;
+        block_.clear();
     }
 
 private:
     std::FILE *out_;
-    std::FILE *messages_;
-    const std::string &name_;
     size_t limit_;
     EncodeCounts &counts_;
-    std::unique_ptr<AstDataBlockInput> input_;
-    std::unique_ptr<AstDataBlock> block_;
-    std::vector<uint8_t> buffer_;
-    std::vector<std::unique_ptr<RecordRequest>> pending_;
-    uint64_t octets_ = 0;
+    std::vector<uint8_t> block_;
+    uint32_t category_ = 0;
+    size_t records_ = 0;
 };
 
 }  // namespace
@@ -97,9 +112,10 @@ EncodeCounts encode_lines(std::FILE *in, const std::string &name, std::FILE *out
                           size_t block_records) {
     EncodeCounts counts;
     if (block_records < 1 || block_records > AST_DATABLOCK_MAX_RECORDS) block_records = AST_DATABLOCK_MAX_RECORDS;
-    BlockWriter writer(out, messages, name, block_records, counts);
-    auto record = std::make_unique<AstDataRecord>();
-    std::vector<uint8_t> scratch(AST_DATABLOCK_MAX_LENGTH);
+    BlockWriter writer(out, block_records, counts);
+    auto check = std::make_unique<AstDataRecord>();
+    RecordRequest request;
+    std::vector<uint8_t> record;
     char *line = nullptr;
     size_t capacity = 0;
     ssize_t n;
@@ -108,15 +124,10 @@ EncodeCounts encode_lines(std::FILE *in, const std::string &name, std::FILE *out
         const std::string text(line, static_cast<size_t>(n));
         if (text.find_first_not_of(" \t\r\n") == std::string::npos) continue;
         std::string error;
-        auto request = std::make_unique<RecordRequest>();
         try {
-            if (record_from_json(nlohmann::json::parse(text), *request, error)) {
-                ast_datarecord_encode(record.get(), scratch.data(), scratch.size(), &request->input);
-                if (record->valid)
-                    writer.add(std::move(request), record->length);
-                else
-                    error = refusal(*request);
-            }
+            if (record_from_json(nlohmann::json::parse(text), request, error) &&
+                assemble_record(request, record, error, *check))
+                writer.add(request.category, std::move(record));
         } catch (const nlohmann::json::parse_error &e) {
             error = "not JSON: " + parse_error_text(e.what());
         }

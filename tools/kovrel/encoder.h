@@ -17,13 +17,15 @@ struct EncodeCounts {
     int output_errno = 0;
 };
 
-// Reads one JSON object per line from `in` (blank lines are skipped) and
-// writes the records as data blocks to `out`. Consecutive records of one
-// category share a block of at most `block_records` records (1 to 64) and
-// 65535 octets; a block is written when it is full, when the category
-// changes and at the end. A line that is not a record is reported on
-// `messages` as "kovrel: NAME:LINE: reason" and skipped. Stops when
-// writing fails.
+// Reads one JSON object per line from `in` (blank lines are skipped; see
+// encode_json.h for the objects) and writes the records as data blocks to
+// `out`. A record is its FSPEC and its items in the profile's FRN order.
+// Consecutive records of one category share a block of at most
+// `block_records` records (1 to 64) and 65535 octets, whatever their
+// profiles; a block is written when it is full, when the category changes
+// and at the end. A line that is not a record is reported on `messages` as
+// "kovrel: NAME:LINE: reason" ("kovrel: in:3: I048/040.rho: value out of
+// range") and skipped. Stops when writing fails.
 EncodeCounts encode_lines(std::FILE *in, const std::string &name, std::FILE *out, std::FILE *messages,
                           size_t block_records = 64);
 
