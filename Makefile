@@ -1,7 +1,7 @@
 # kovrel: top-level entry points over CMake + Ninja.
 #   make demo   build everything and run the kovrel tool on its sample
 #   make test   build and run every test (plain, then ASan+UBSan, exports)
-#   make bench  build and run the benchmarks
+#   make bench  build and run the benchmarks, then time the kovrel tool on a large recording
 #   make fuzz   build the libFuzzer target with clang and run it for FUZZ_SECONDS (60)
 
 BUILD      ?= build
@@ -44,9 +44,10 @@ test: test-plain test-asan fuzz
 	@echo "all test stages passed"
 
 bench: deps
-	cmake -S . -B $(BENCH_BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=Release -DKOVREL_BUILD_BENCH=ON -DKOVREL_BUILD_TESTS=OFF -DKOVREL_BUILD_TOOLS=OFF
+	cmake -S . -B $(BENCH_BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=Release -DKOVREL_BUILD_BENCH=ON -DKOVREL_BUILD_TESTS=OFF -DKOVREL_BUILD_TOOLS=ON
 	cmake --build $(BENCH_BUILD) -j $(JOBS)
 	$(BENCH_BUILD)/bench/kovrel_bench
+	bench/tool_bench.sh $(BENCH_BUILD)
 
 fuzz: deps
 	cmake -S . -B $(FUZZ_BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \

@@ -19,7 +19,7 @@ struct Decoded {
 
 inline Decoded decode_octets(const Octets &octets, bool json) {
     kovrel_tool::SessionSettings settings;
-    settings.json = json;
+    settings.format = json ? kovrel_tool::RecordFormat::Json : kovrel_tool::RecordFormat::Text;
     Capture out, messages;
     kovrel_tool::DecodeSession session(settings, out.file(), messages.file());
     session.decode_memory("in", octets.data(), octets.size());

@@ -1,9 +1,20 @@
 // The facts the tool shows for a record: the `fields` object of the JSON
-// output and the tags of the text line.
+// output and the tags of the text line, as the record accessors answer
+// them; and what --stats counts per record.
 #ifdef KOVREL_HAVE_TOOL_CORE
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <memory>
+#include <random>
+
+#include "blocks.h"
+#include "decode.h"
+#include "fields.h"
+#include "sample.h"
+#include "session.h"
+#include "stats.h"
 #include "tools/decoded.h"
 
 using namespace kovrel_tool_test;
@@ -89,6 +100,155 @@ TEST(ToolFields, TextLineTags) {
     const auto bad = decode_octets(cat048_block({kCutShort}), false).lines;
     ASSERT_EQ(bad.size(), 1u);
     EXPECT_TRUE(bad[0].ends_with(" INVALID")) << bad[0];
+}
+
+// The reader calls the accessors itself, once looked up per category: it
+// must answer exactly as the library's ast_datarecord_get_* do, for good
+// records, records cut short and records of every category.
+TEST(ToolFields, ReaderAnswersAsTheAccessors) {
+    using kovrel_tool::RecordField;
+    kovrel_tool::RecordFieldReader reader;
+    kovrel_tool::RecordFields f;
+    size_t records = 0, answered = 0;
+    auto check = [&](const AstDataRecord &r) {
+        ++records;
+        reader.read(f, r, kovrel_tool::kAskAll);
+        if (f.answered) ++answered;
+        AstDataSourceIdentifier source;
+        ast_datarecord_get_sacsic(&source, &r);
+        EXPECT_EQ(f.has(RecordField::Sac), source.valid == 1);
+        if (source.valid == 1) {
+            EXPECT_EQ(f.sac, source.sac);
+            EXPECT_EQ(f.sic, source.sic);
+        }
+        AstTimeOfDay tod;
+        ast_datarecord_get_timeofday(&tod, &r);
+        EXPECT_EQ(f.has(RecordField::Tod), tod.valid != 0);
+        if (tod.valid) {
+            EXPECT_EQ(f.tod.raw, tod.raw);
+        }
+        AstRecordMsgType type;
+        ast_datarecord_get_msgtype(&type, &r);
+        EXPECT_EQ(f.has(RecordField::MsgType), type.valid != 0);
+        if (type.valid) {
+            EXPECT_EQ(f.msgtype, type.value);
+        }
+        AstRecordCallsign callsign;
+        ast_datarecord_get_callsign(&callsign, &r);
+        EXPECT_EQ(f.has(RecordField::Callsign), callsign.valid != 0);
+        if (callsign.valid) {
+            EXPECT_STREQ(f.callsign, callsign.callsign);
+        }
+        AstMode3aCode squawk;
+        ast_datarecord_get_squawk(&squawk, &r);
+        EXPECT_EQ(f.has(RecordField::Mode3a), squawk.valid != 0);
+        if (squawk.valid) {
+            EXPECT_EQ(f.mode3a, squawk.code & 07777u);
+        }
+        AstRecordValue level;
+        ast_datarecord_get_flightlevel(&level, &r);
+        EXPECT_EQ(f.has(RecordField::Fl), level.valid != 0);
+        if (level.valid) {
+            EXPECT_EQ(std::memcmp(&f.fl, &level.value, sizeof f.fl), 0);
+        }
+        AstRecordPolar polar;
+        ast_datarecord_get_polarcoord(&polar, &r);
+        EXPECT_EQ(f.has(RecordField::Rho), polar.valid != 0);
+        AstRecordWgs84 wgs84;
+        ast_datarecord_get_wgs84coord(&wgs84, &r);
+        EXPECT_EQ(f.has(RecordField::Lat), wgs84.valid != 0);
+        AstTargetAddress address;
+        ast_datarecord_get_icaoaddr(&address, &r);
+        EXPECT_EQ(f.has(RecordField::Icao), address.valid != 0);
+        AstVerticalRate rate;
+        ast_datarecord_get_vrate(&rate, &r);
+        EXPECT_EQ(f.has(RecordField::Vrate), rate.valid != 0);
+
+        // The text line asks the Mode 3/A code only when no callsign shows.
+        reader.read(f, r, kovrel_tool::kAskTags);
+        const bool shown = callsign.valid && callsign.callsign[0] != '\0';
+        EXPECT_EQ(f.has(RecordField::Mode3a), squawk.valid != 0 && !shown);
+        EXPECT_FALSE(f.has(RecordField::Fl));
+    };
+    // Every block of a chunk as the tool decodes it, the record a bad block
+    // stopped at included.
+    kovrel_tool::BlockDecoder decoder(nullptr);
+    auto check_chunk = [&](const uint8_t *data, size_t size) {
+        kovrel_tool::Chunk chunk;
+        chunk.data = data;
+        chunk.size = size;
+        for (const auto &slice : kovrel_tool::split_blocks(chunk)) {
+            if (slice.problem != kovrel_tool::SliceProblem::None) continue;
+            const auto outcome = decoder.decode(slice.data, slice.size);
+            for (uint64_t i = 0; i < outcome.block->record_count; ++i) check(outcome.block->records[i]);
+            if (outcome.failed) check(outcome.failed->record);
+        }
+    };
+    std::FILE *sample =
+        fmemopen(const_cast<unsigned char *>(kovrel_tool::kSamplePcap), kovrel_tool::kSamplePcapSize, "rb");
+    ASSERT_NE(sample, nullptr);
+    kovrel_tool::CaptureStats capture;
+    std::string error;
+    ASSERT_TRUE(kovrel_tool::read_capture(
+        sample,
+        [&](const kovrel_tool::Chunk &c) {
+            check_chunk(c.data, c.size);
+            return true;
+        },
+        capture, error));
+    const Octets mine = cat048_block({kFull, kPadded, kSourceOnly, kCutShort});
+    check_chunk(mine.data(), mine.size());
+    std::mt19937 random(5);
+    const uint8_t categories[] = {1, 2, 4, 8, 10, 21, 34, 48, 62, 65};
+    for (int i = 0; i < 2000; ++i) {
+        Octets b(4 + random() % 40);
+        b[0] = categories[random() % sizeof categories];
+        b[1] = 0;
+        b[2] = static_cast<uint8_t>(b.size());
+        for (size_t k = 3; k < b.size(); ++k) b[k] = static_cast<uint8_t>(random());
+        check_chunk(b.data(), b.size());
+    }
+    EXPECT_GT(records, 1000u);
+    EXPECT_GT(answered, 150u);
+}
+
+// What --stats counts per record, and a copy of the counts going its own way.
+TEST(ToolFields, StatsCountSourcesTypesAndProfiles) {
+    const Octets input = concat({cat048_block({kFull, kPadded, kSourceOnly}), cat048_block({kSourceOnly}),
+                                 {21, 0x00, 0x10, 0x81, 0x01, 0x01, 0x01, 0x80, 0x19, 0x33, 0x4D, 0x74, 0xB1, 0xCB,
+                                  0x38, 0x20},
+                                 cat048_block({kCutShort})});
+    Capture out, messages;
+    kovrel_tool::SessionSettings s;
+    s.format = kovrel_tool::RecordFormat::None;
+    kovrel_tool::DecodeSession session(s, out.file(), messages.file());
+    session.decode_memory("in", input.data(), input.size());
+    EXPECT_EQ(out.text(), "");
+    const kovrel_tool::Stats &st = session.stats();
+    EXPECT_EQ(st.records, 5u);
+    EXPECT_EQ(st.invalid, 1u);
+    using Sources = std::map<std::tuple<uint32_t, uint32_t, uint32_t>, uint64_t>;
+    EXPECT_EQ(st.sources(), (Sources{{{48, 25, 1}, 1}, {{48, 25, 2}, 1}, {{48, 25, 3}, 2}}));
+    EXPECT_EQ(st.profiles(), (std::map<std::string, uint64_t>{{"cat021_ver21", 1}, {"standard", 4}}));
+    uint64_t typed = 0;
+    for (const auto &[key, n] : st.message_types()) {
+        EXPECT_EQ(key.first, 48u);
+        EXPECT_FALSE(key.second.empty());
+        typed += n;
+    }
+    EXPECT_EQ(typed, 4u);
+
+    // A copy keeps its counts when the original goes on, and counts on its own.
+    kovrel_tool::Stats copy = st;
+    session.decode_memory("more", input.data(), input.size());
+    EXPECT_EQ(copy.sources().at({48, 25, 3}), 2u);
+    EXPECT_EQ(session.stats().sources().at({48, 25, 3}), 4u);
+    auto block = std::make_unique<AstDataBlock>();
+    const Octets one = cat048_block({kSourceOnly});
+    ast_datablock_decode_into(block.get(), one.data(), one.size(), &AST_UAP_STANDARD);
+    copy.count_block(*block, 48, one.size(), true);
+    EXPECT_EQ(copy.sources().at({48, 25, 3}), 3u);
+    EXPECT_EQ(session.stats().sources().at({48, 25, 3}), 4u);
 }
 
 #endif  // KOVREL_HAVE_TOOL_CORE

@@ -135,7 +135,7 @@ TEST(ToolSession, CaptureWithSeveralBlocksPerDatagram) {
 
 TEST(ToolSession, JsonLines) {
     SessionSettings s;
-    s.json = true;
+    s.format = RecordFormat::Json;
     ToolRun run(s);
     run.decode(pcap_file(1, {ethernet(0x0800, ipv4(udp(concat({sacsic_block(7), kBad}))))}), "j.pcap");
     const auto lines = run.out.lines();
@@ -194,23 +194,66 @@ TEST(ToolSession, FilesAndUnreadableInputs) {
     EXPECT_TRUE(has(run.out.text(), "blk 1     pkt 1+0 "));
 }
 
+TEST(ToolSession, FilesDecodeAsTheirOctets) {
+    // Raw blocks and hex text from a file (mapped, not read) print what the
+    // same octets print from memory; a file may end with a cut block.
+    const Octets raw = concat({sacsic_block(1), kBad, sacsic_block(2, 3), {0x30, 0x00, 0x40, 0x80}});
+    const std::string hex_text = "30 00 06 80 19 05\n30 00 09 82 19 01 e0 29 06\n";
+    for (const Octets &octets : {raw, Octets(hex_text.begin(), hex_text.end())}) {
+        char path[] = "/tmp/kovrel_mapped_XXXXXX";
+        const int fd = mkstemp(path);
+        ASSERT_GE(fd, 0);
+        ASSERT_EQ(write(fd, octets.data(), octets.size()), static_cast<ssize_t>(octets.size()));
+        close(fd);
+        SessionSettings s;
+        s.items = true;
+        ToolRun from_file(s), from_memory(s);
+        EXPECT_TRUE(from_file.session.decode_file(path));
+        from_memory.decode(octets, path);
+        unlink(path);
+        EXPECT_EQ(from_file.out.text(), from_memory.out.text());
+        EXPECT_EQ(from_file.messages.text(), from_memory.messages.text());
+        EXPECT_EQ(from_file.session.stats().records, from_memory.session.stats().records);
+        EXPECT_GT(from_file.out.lines().size(), 3u);
+    }
+}
+
 TEST(ToolSession, StopsWhenOutputFails) {
     std::FILE *full = std::fopen("/dev/full", "w");
     if (!full) GTEST_SKIP() << "no /dev/full";
     std::setvbuf(full, nullptr, _IONBF, 0);
     Capture messages;
-    DecodeSession session(SessionSettings{}, full, messages.file());
-    const Octets two = concat({sacsic_block(1), sacsic_block(2)});
-    session.decode_memory("x", two.data(), two.size());
-    EXPECT_TRUE(session.output_failed());
-    EXPECT_EQ(session.output_errno(), ENOSPC);
-    EXPECT_EQ(session.stats().blocks, 1u);  // the second block is not decoded
+    // Records go out in large writes: the first one that fails stops the
+    // session, long before the 200 blocks (about a megabyte of lines) are
+    // all decoded.
+    std::vector<Octets> blocks(200, sacsic_block(1, 64));
+    const Octets many = [&] {
+        Octets all;
+        for (const auto &b : blocks) all.insert(all.end(), b.begin(), b.end());
+        return all;
+    }();
+    {
+        DecodeSession session(SessionSettings{}, full, messages.file());
+        session.decode_memory("x", many.data(), many.size());
+        EXPECT_TRUE(session.output_failed());
+        EXPECT_EQ(session.output_errno(), ENOSPC);
+        EXPECT_GT(session.stats().blocks, 0u);
+        EXPECT_LT(session.stats().blocks, 100u);
+    }
+    // Counting alone writes nothing, so nothing fails.
+    SessionSettings count;
+    count.format = RecordFormat::None;
+    DecodeSession counting(count, full, messages.file());
+    counting.decode_memory("x", many.data(), many.size());
+    EXPECT_FALSE(counting.output_failed());
+    EXPECT_EQ(counting.stats().blocks, 200u);
+    EXPECT_EQ(counting.stats().records, 200u * 64);
     std::fclose(full);
 }
 
 TEST(ToolSession, BuiltInSampleDecodesWhole) {
     SessionSettings s;
-    s.json = true;
+    s.format = RecordFormat::Json;
     ToolRun run(s);
     ASSERT_TRUE(run.session.decode_memory("sample", kSamplePcap, kSamplePcapSize));
     EXPECT_EQ(run.messages.text(), "");
@@ -221,10 +264,23 @@ TEST(ToolSession, BuiltInSampleDecodesWhole) {
     // CAT021 from the edition 2.1 station (SIC 51) needs edition 2.1; the
     // other station's reports read with the standard profile (0.26), also
     // right after a 2.1 block; CAT001 mixes plots and tracks.
-    size_t v21 = 0, v026 = 0, plots = 0, tracks = 0;
+    size_t v21 = 0, v026 = 0, plots = 0, tracks = 0, described = 0;
     for (const auto &line : run.out.lines()) {
-        const auto j = nlohmann::json::parse(line);
+        // Every line is one JSON object, its keys in their fixed order.
+        const auto j = nlohmann::ordered_json::parse(line);
+        std::vector<std::string> keys;
+        for (const auto &[key, value] : j.items()) keys.push_back(key);
+        EXPECT_EQ(keys, (std::vector<std::string>{"input", "block", "offset", "packet", "time", "cat", "uap", "record",
+                                                  "length", "item_count", "valid", "block_valid", "fields", "items"}));
         ASSERT_EQ(j["valid"], true);
+        ASSERT_EQ(j["items"].size(), j["item_count"]);
+        for (const auto &item : j["items"]) {
+            keys.clear();
+            for (const auto &[key, value] : item.items()) keys.push_back(key);
+            if (keys.size() == 6 && item["fields"].is_object()) ++described;
+            keys.resize(5);
+            EXPECT_EQ(keys, (std::vector<std::string>{"id", "name", "len", "hex", "summary"}));
+        }
         if (j["cat"] == 21) {
             const std::string sic = j["items"][0]["hex"];
             if (sic == "19 33") {
@@ -241,6 +297,7 @@ TEST(ToolSession, BuiltInSampleDecodesWhole) {
     EXPECT_GT(v026, v21);
     EXPECT_GT(plots, 0u);
     EXPECT_GT(tracks, 0u);
+    EXPECT_GT(described, 0u);  // items the library describes carry their fields
 }
 
 #endif  // KOVREL_HAVE_TOOL_CORE

@@ -1,5 +1,6 @@
 # Runs the kovrel tool on its sample recording and fails unless it exits 0,
-# reports no bad block and no problem, and prints records.
+# reports no bad block and no problem, and prints records (text, JSON,
+# CSV); --stats alone counts without printing; bad CSV columns are refused.
 # With --format html it writes one whole page per input, and refuses
 # several inputs without -o.
 #   cmake -DKOVREL=path/to/kovrel -DSAMPLE=path/to/sample.pcap -DWORK=dir -P check_sample.cmake
@@ -26,16 +27,41 @@ function(check_run label)
     message(FATAL_ERROR "${label}: no records printed")
   endif()
   set(last_out "${out}" PARENT_SCOPE)
+  set(last_err "${err}" PARENT_SCOPE)
 endfunction()
 
-check_run("built-in sample" ${KOVREL} --stats)
+check_run("built-in sample" ${KOVREL} --stats --format text)
 set(builtin "${last_out}")
-check_run("decode of sample.pcap" ${KOVREL} decode --stats ${SAMPLE})
+set(builtin_err "${last_err}")
+check_run("decode of sample.pcap" ${KOVREL} decode --stats --format text ${SAMPLE})
 # The same recording gives the same records, whichever way it comes in.
 if(NOT builtin STREQUAL last_out)
   message(FATAL_ERROR "the built-in sample and sample.pcap decode differently")
 endif()
 check_run("JSON of sample.pcap" ${KOVREL} decode --stats --format json ${SAMPLE})
+check_run("CSV of sample.pcap" ${KOVREL} decode --stats --columns "block,cat,sac,tod,I048/040.rho" ${SAMPLE})
+if(NOT last_out MATCHES "^block,cat,sac,tod,I048/040.rho\n1,34,")
+  message(FATAL_ERROR "CSV of sample.pcap: header or first row wrong\n${last_out}")
+endif()
+
+# --stats alone, and records thrown away, count without printing: the
+# same counts, no record.
+string(REGEX REPLACE "\n  time [^\n]*" "" counts "${builtin_err}")
+foreach(args "--stats" "--stats;-o;/dev/null")
+  execute_process(COMMAND ${KOVREL} ${args} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  string(REGEX REPLACE "\n  time [^\n]*" "" err_counts "${err}")
+  if(NOT status EQUAL 0 OR NOT out STREQUAL "" OR NOT err_counts STREQUAL counts)
+    message(FATAL_ERROR "kovrel ${args}: exit status ${status}, ${out}\n${err}")
+  endif()
+endforeach()
+
+# Columns that cannot be written are refused before anything is decoded.
+foreach(args "--columns;block,squawk" "--format;csv;--columns;I048/040" "--format;json;--columns;block")
+  execute_process(COMMAND ${KOVREL} decode ${args} ${SAMPLE} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  if(NOT status EQUAL 2 OR NOT out STREQUAL "" OR NOT err MATCHES "^kovrel: ")
+    message(FATAL_ERROR "kovrel decode ${args}: exit status ${status}\n${err}")
+  endif()
+endforeach()
 
 set(page ${WORK}/check_sample.html)
 set(page2 ${WORK}/check_sample-2.html)

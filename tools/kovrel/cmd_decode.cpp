@@ -2,6 +2,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstring>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <kovrel/kovrel.h>
@@ -36,21 +37,47 @@ std::FILE *open_output(const std::string &path) {
     return out;
 }
 
+// True when path names the null device (writing there only costs time).
+bool is_null_device(const std::string &path) {
+    struct stat a, b;
+    return stat(path.c_str(), &a) == 0 && stat("/dev/null", &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
 }  // namespace
 
 int run_decode(const DecodeOptions &options) {
-    if (options.format != "text" && options.format != "json" && options.format != "html") {
-        std::fprintf(stderr, "kovrel: unknown format '%s'; use text, json or html\n", options.format.c_str());
+    std::string format = options.format;
+    if (format.empty()) format = options.columns.empty() ? "text" : "csv";
+    if (format != "text" && format != "json" && format != "csv" && format != "html") {
+        std::fprintf(stderr, "kovrel: unknown format '%s'; use text, json, csv or html\n", format.c_str());
         return 2;
     }
-    const bool html = options.format == "html";
+    const bool html = format == "html";
     if (html && options.files.size() > 1 && options.output.empty()) {
         std::fprintf(stderr, "kovrel: --format html writes one page per input; give -o FILE for several inputs\n");
         return 2;
     }
+    if (!options.columns.empty() && format != "csv") {
+        std::fprintf(stderr, "kovrel: --columns goes with --format csv\n");
+        return 2;
+    }
     SessionSettings settings;
-    settings.json = options.format == "json";
+    settings.format = format == "json" ? RecordFormat::Json : format == "csv" ? RecordFormat::Csv : RecordFormat::Text;
     settings.items = options.items;
+    if (settings.format == RecordFormat::Csv) {
+        std::string error;
+        if (!parse_csv_columns(options.columns.empty() ? default_csv_columns() : options.columns, settings.columns,
+                               error)) {
+            std::fprintf(stderr, "kovrel: --columns: %s\n", error.c_str());
+            return 2;
+        }
+    }
+    // Counting alone: --stats with nothing asked of the records, or records
+    // thrown away.
+    const bool count_only = (options.stats && options.format.empty() && options.columns.empty() && !options.items &&
+                             options.output.empty()) ||
+                            (!options.output.empty() && is_null_device(options.output));
+    if (count_only && !html) settings.format = RecordFormat::None;
     if (options.uap != "auto") {
         settings.uap = find_profile(options.uap);
         if (!settings.uap) {
@@ -104,6 +131,7 @@ int run_decode(const DecodeOptions &options) {
         write_page(session, page, input_name(i), [&] { decode(i); });
         if (i > 0 && (write_errno = finish_output(page, session)) != 0) break;
     }
+    session.flush();
     progress.clear();
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
 

@@ -17,7 +17,9 @@ int run_uap(std::FILE *out, const std::string &profile, unsigned category);
 // Options of `kovrel [decode] [FILE...]`.
 struct DecodeOptions {
     std::vector<std::string> files;  // none: the built-in sample recording
-    std::string format = "text";     // text | json | html (one page per input)
+    std::string format;              // text | json | csv | html (one page per input); "": text, or
+                                     // nothing with --stats alone
+    std::string columns;             // csv: comma-separated columns; "": the default ones
     bool items = false;              // text: one line per item too
     std::string uap = "auto";        // auto (smart decoding) or a profile name
     bool stats = false;              // counts and throughput on standard error
@@ -28,7 +30,10 @@ struct DecodeOptions {
 // `kovrel [decode] [FILE...]`: decodes recordings (pcap, pcapng, raw
 // blocks, hexadecimal text). Exit status 0, or 1 when nothing could be
 // read (no input readable, or no valid block in any of them) or writing
-// failed, 2 for bad options (also: html for several inputs without -o).
+// failed, 2 for bad options (also: html for several inputs without -o, an
+// unknown CSV column). Records are not formatted at all with --stats and
+// neither a format, --items nor -o, and with -o /dev/null: the inputs are
+// decoded and counted only.
 int run_decode(const DecodeOptions &options);
 
 // Options of `kovrel encode [FILE] [-o OUT]`.

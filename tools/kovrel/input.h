@@ -37,6 +37,10 @@ struct Location {
 };
 
 std::string format_location(const Location &where);
+// The same into text (at least kLocationSize characters); returns the
+// characters written.
+constexpr size_t kLocationSize = 48;
+size_t format_location(char *text, const Location &where);
 
 // Octets of one chunk. For captures, time is the packet's time stamp in
 // seconds since 1970 (0 otherwise).

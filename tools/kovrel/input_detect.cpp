@@ -1,4 +1,5 @@
 // Telling inputs apart by their content.
+#include <charconv>
 #include <cstring>
 
 #include "input.h"
@@ -89,8 +90,22 @@ InputKind detect_input(const uint8_t *head, size_t size) {
 }
 
 std::string format_location(const Location &where) {
-    if (where.packet != 0) return "pkt " + std::to_string(where.packet) + "+" + std::to_string(where.offset);
-    return "@" + std::to_string(where.offset);
+    char text[kLocationSize];
+    return std::string(text, format_location(text, where));
+}
+
+size_t format_location(char *text, const Location &where) {
+    char *p = text;
+    char *const end = text + kLocationSize;
+    if (where.packet != 0) {
+        std::memcpy(p, "pkt ", 4);
+        p = std::to_chars(p + 4, end, where.packet).ptr;
+        *p++ = '+';
+    } else {
+        *p++ = '@';
+    }
+    p = std::to_chars(p, end, where.offset).ptr;
+    return static_cast<size_t>(p - text);
 }
 
 }  // namespace kovrel_tool

@@ -10,21 +10,34 @@ namespace {
 // same storage.
 void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
     app->add_option("--format", o.format,
-                    "text: one line per record; json: one JSON object per record, with a \"fields\" object (sac, "
-                    "sic, tod, msgtype, track, mode3a, fl, sel_alt, callsign, icao, lat, lon, rho, theta, speed, "
-                    "heading, vx, vy, vrate: those the record has); html: one self-contained page per input "
-                    "(records as collapsible sections with item tables, detail views, octets)")
-        ->check(CLI::IsMember({"text", "json", "html"}))
-        ->capture_default_str();
+                    "text (the default): one line per record; json: one JSON object per record (JSON Lines): "
+                    "input, block, offset, packet and time (captures), cat, uap, record, length, item_count, valid, "
+                    "block_valid, a \"fields\" object (sac, sic, tod, msgtype, track, mode3a, fl, sel_alt, callsign, "
+                    "icao, lat, lon, rho, theta, speed, heading, vx, vy, vrate: those the record has) and \"items\" "
+                    "(id, name, len, hex, summary and the item's own \"fields\" when the library describes them); "
+                    "csv: a header row and one row per record (see --columns); html: one self-contained page per "
+                    "input (records as collapsible sections with item tables, detail views, octets)")
+        ->check(CLI::IsMember({"text", "json", "csv", "html"}));
+    app->add_option("--columns", o.columns,
+                    "csv: comma-separated columns (implies --format csv). Record columns: input, block, offset, "
+                    "packet, time, cat, uap, record, length, item_count, valid, block_valid and the record fields "
+                    "(sac ... vrate, as in json). Item fields: the item, a dot and the field's path in the item's "
+                    "fields, e.g. I048/040.rho, I048/250.bds60.ias, I048/130.srl.srl, array elements by position "
+                    "from 0 (I048/030.codes.0). Default: block, offset, cat, uap, record, valid and the record "
+                    "fields. An unknown record column is refused; an item field cannot be checked before its item "
+                    "is decoded, so a misspelt one stays empty. A cell is empty when the record has no such value");
     app->add_flag("--items", o.items, "text: one indented line per item (id, name, length, octets, summary)");
     app->add_option("--uap", o.uap,
                     "profile: auto (smart decoding), standard, cat001_plot, cat021_ver023, cat021_ver026, "
                     "cat021_ver21, cat021_ver27, asr10ss, asr10ss_mk2, thales, managair")
         ->capture_default_str();
-    app->add_flag("--stats", o.stats, "counts per category, source, message type and profile; MB/s");
+    app->add_flag("--stats", o.stats,
+                  "counts per category, source, message type and profile, and MB/s, on standard error; alone "
+                  "(no --format, --columns, --items or -o) the records are decoded and counted, not printed");
     app->add_option("-o,--output", o.output,
-                    "write the records to FILE instead of standard output; html with several inputs (needs -o): "
-                    "FILE for the first, then FILE with -2, -3, ... before the extension (out.html, out-2.html)");
+                    "write the records to FILE instead of standard output (-o /dev/null: records are not "
+                    "formatted at all); html with several inputs (needs -o): FILE for the first, then FILE with "
+                    "-2, -3, ... before the extension (out.html, out-2.html)");
     app->add_flag("--log", o.log, "library log lines on standard error");
     app->add_option("files", o.files,
                     "pcap, pcapng, raw data blocks or hexadecimal text (\"-\": standard input); "
@@ -34,8 +47,9 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
         "octet N of a raw or hex input; \"pkt P+N\": octet N of the UDP payload of packet P), category, "
         "profile, record number, record length, item count, valid, then SAC and SIC, time of day, message type "
         "and callsign (or Mode 3/A code) when the record has them. Bad blocks are reported on standard error "
-        "(and, with html, on the page where they occur) and decoding goes on. Exit status 1 when nothing could "
-        "be read or writing failed, 2 for bad options.");
+        "(and, with html, on the page where they occur) and decoding goes on. CSV cells are quoted as RFC 4180 "
+        "says; JSON output is valid JSON whatever the input octets. Exit status 1 when nothing could "
+        "be read or writing failed, 2 for bad options (an unknown CSV column too).");
 }
 
 }  // namespace
@@ -61,20 +75,29 @@ int main(int argc, char **argv) {
     uap->add_option("category", category, "category number (all supported categories when omitted)");
 
     kovrel_tool::EncodeOptions encode_options;
-    auto *encode = app.add_subcommand("encode", "write data blocks from JSON Lines (CAT048)");
+    auto *encode = app.add_subcommand(
+        "encode", "write data blocks from JSON Lines (items of any category, record fields of CAT048)");
     encode->add_option("file", encode_options.file, "JSON Lines, one record per line (\"-\" or none: standard input)");
     encode->add_option("-o,--output", encode_options.output, "write the blocks to FILE instead of standard output");
     encode->add_option("--block-records", encode_options.block_records,
                        "most records per block, 1 to 64 (blocks also end where the category changes)")
         ->capture_default_str();
     encode->footer(
-        "Each line is one JSON object shaped like those of `kovrel decode --format json`: \"cat\": 48 and a "
-        "\"fields\" object with sac and sic (required), tod (\"HH:MM:SS.fff\"), typ (0-7; default 5 with icao, "
-        "else 2), rho (NM) with theta (degrees), mode3a (octal digits, as a string), fl (feet), icao (hexadecimal "
-        "digits), callsign, track, speed (knots) with heading (degrees); the other keys of decoded fields are left "
-        "out. Values are rounded to the nearest step of their item. Consecutive records share a block; the "
-        "blocks are written back to back. Bad lines are reported on standard error with their line number and "
-        "skipped. Exit status 0 when at least one record was written, 1 when none was, 2 for bad options.");
+        "Each line is one JSON object shaped like those of `kovrel decode --format json`: \"cat\", \"uap\" (a "
+        "profile name; default standard), and \"items\", \"fields\" (CAT048 only) or both. \"items\" lists objects "
+        "{\"id\": \"I048/040\", \"fields\": {...}} or {\"id\": ..., \"hex\": \"0c 80 20 00\"}: an item the library "
+        "encodes is built from its fields, each set by its dotted path (a nested object is a group) from numbers, "
+        "booleans and texts, Mode 3/A codes and addresses from octal or hexadecimal digits, null leaving the "
+        "default; any other item is copied from hex, which must be exactly one item of that id. Items may come in "
+        "any order; the FSPEC follows the profile. The record fields of CAT048: sac and sic (required without "
+        "items), tod (\"HH:MM:SS.fff\"), typ (0-7; without items default 5 with icao, else 2), "
+        "rho (NM) with theta (degrees), mode3a (octal digits, as a string), fl (feet), icao (hexadecimal digits), "
+        "callsign, track, speed (knots) with heading (degrees); the other keys of decoded fields are left out. "
+        "Values are rounded to the nearest step of their item; an item in items wins over the same item from "
+        "fields. Consecutive records of a category share a block; the blocks are written back to back. Bad lines "
+        "are reported on standard error with their line number, item and field (\"in.jsonl:3: I048/010.sac: value "
+        "out of range\") and skipped. Exit status 0 when at least one record was written, 1 when none was, 2 for "
+        "bad options.");
 
     // Added last: subcommands take over the help footer of their parent.
     kovrel_tool::DecodeOptions decode_options;

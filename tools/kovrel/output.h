@@ -7,28 +7,35 @@
 // profile, record number in the block (from 1), record length, item count,
 // and "valid" or "INVALID" (the record a bad block stopped at; its length
 // is "-", null in JSON, and its items are those read before the failure),
-// then the record's tags when it has any (see field_tags in fields.h):
+// then the record's tags when it has any (see put_field_tags in fields.h):
 //   ... items 14 valid  sac 25 sic 1  tod 12:34:56.789  Target Report  callsign DLH123
 // Item line (with --items):
 //     I048/010  Data Source Identifier                  len 2   19 01  | SAC:025 SIC:001
 // identifier, name, length, octets in hexadecimal, summary.
 //
-// JSON object (one per line): input, block, offset, packet and time (for
-// captures), cat, uap, record, length, item_count, valid, block_valid,
-// fields (see fields.h) and items: [{id, name, len, hex, summary}, ...].
-// offset is the block's octet offset: in the input for raw and hex inputs,
-// in the UDP payload of the packet for captures.
+// JSON object (one per line), keys in this order: input, block, offset,
+// packet and time (for captures), cat, uap, record, length, item_count,
+// valid, block_valid, fields (see fields.h) and items: [{id, name, len,
+// hex, summary, fields}, ...]. offset is the block's octet offset: in the
+// input for raw and hex inputs, in the UDP payload of the packet for
+// captures. An item's fields are the library's description of its values
+// (ast_dataitem_get_fields_json); the key is left out for items that have
+// none.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include <kovrel/kovrel.h>
-#include <nlohmann/json.hpp>
 
+#include "fields.h"
 #include "input.h"
+#include "json_writer.h"
+#include "out_buffer.h"
 
 namespace kovrel_tool {
 
@@ -42,18 +49,65 @@ struct RecordView {
     bool block_valid = true;
 };
 
-std::string record_line(const RecordView &view);
-std::string item_line(const AstDataItem &item);
+// The octets of an item as lower-case hexadecimal pairs separated by
+// blanks, as ast_dataitem_get_hex_str writes them (nothing for an item that
+// is not valid).
+void put_item_hex(OutBuffer &out, const AstDataItem &item);
 
-nlohmann::json item_json(const AstDataItem &item);
-nlohmann::json record_json(const RecordView &view);
+// Most characters of a summary; longer ones are cut.
+constexpr size_t kSummarySize = 4096;
 
-// One line of JSON; text that is not UTF-8 (octets of hostile input in a
-// summary) is replaced, never thrown on.
-std::string json_line(const nlohmann::json &value);
+// The profile label of a record (profile_label), kept for the last profile
+// and category asked.
+class ProfileLabels {
+public:
+    const char *operator()(const AstDataRecord &record);
 
-// The octets of an item in hexadecimal, and its summary.
-std::string item_hex(const AstDataItem &item);
-std::string item_summary(const AstDataItem &item);
+private:
+    decltype(AstUap::get_dataitem) uap_ = nullptr;
+    uint32_t category_ = 0;
+    const char *label_ = nullptr;
+};
+
+// Writes records into an OutBuffer as text lines, item lines or JSON
+// lines, each ended by '\n'. What does not change from one record to the
+// next (an item's identifier and name, a profile's label) is worked out
+// once and kept.
+class RecordFormatter {
+public:
+    explicit RecordFormatter(OutBuffer &out);
+    ~RecordFormatter();
+    RecordFormatter(const RecordFormatter &) = delete;
+    RecordFormatter &operator=(const RecordFormatter &) = delete;
+
+    void text_line(const RecordView &view);
+    void item_lines(const AstDataRecord &record);
+    void json_line(const RecordView &view);
+
+private:
+    struct ItemText {
+        std::string id;         // "I048/010"
+        std::string json_head;  // {"id":"I048/010","name":"...","len":
+        std::string text_head;  // "    I048/010  Data Source Identifier ...  len "
+    };
+    const ItemText &item_text(AstItemId id);
+    static ItemText make_item_text(AstItemId id);
+    void item_json(JsonWriter &json, const AstDataItem &item);
+
+    OutBuffer &out_;
+    std::unordered_map<AstItemId, ItemText> items_;
+    // The texts of identifiers met lately, by a hash of the identifier.
+    struct Recent {
+        AstItemId id = 0;
+        const ItemText *text = nullptr;
+    };
+    Recent recent_[256];
+    ProfileLabels label_;
+    RecordFieldReader reader_;
+    RecordFields fields_;  // of the record being written
+    std::string input_;       // the input name last escaped, and its JSON text
+    std::string input_json_;
+    std::unique_ptr<char[]> summary_;
+};
 
 }  // namespace kovrel_tool

@@ -3,6 +3,9 @@
 #include <cerrno>
 #include <cstring>
 #include <string_view>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <vector>
 
 #include "blocks.h"
@@ -21,17 +24,47 @@ std::string cat_text(const uint8_t *data, size_t size) {
     return buf;
 }
 
+bool is_terminal(std::FILE *file) {
+    const int fd = file ? fileno(file) : -1;
+    return fd >= 0 && isatty(fd);
+}
+
 }  // namespace
 
 DecodeSession::DecodeSession(const SessionSettings &settings, std::FILE *out, std::FILE *messages)
-    : settings_(settings), out_(out), messages_(messages), decoder_(settings.uap) {}
+    : settings_(settings), out_(out), messages_(messages), buffer_(out), formatter_(buffer_),
+      terminal_(is_terminal(out)), decoder_(settings.uap) {
+    if (settings_.format == RecordFormat::Csv) {
+        csv_ = std::make_unique<CsvWriter>(buffer_, settings_.columns);
+        csv_->header();
+        if (terminal_) flush();
+    }
+}
+
+DecodeSession::~DecodeSession() = default;
 
 void DecodeSession::set_output(std::FILE *out, HtmlPage *page) {
+    flush();
     out_ = out;
     page_ = page;
+    buffer_.set_file(out);
+    terminal_ = is_terminal(out);
+}
+
+void DecodeSession::flush() {
+    if (buffer_.size() == 0) return;
+    if (output_failed_) {
+        buffer_.clear();
+        return;
+    }
+    if (!buffer_.flush()) {
+        output_failed_ = true;
+        output_errno_ = errno;
+    }
 }
 
 void DecodeSession::message(const std::string &name, const std::string &text) {
+    flush();
     if (before_message) before_message();
     std::fprintf(messages_, "kovrel: %s: %s\n", name.c_str(), text.c_str());
     std::fflush(messages_);
@@ -46,11 +79,8 @@ void DecodeSession::unreadable(const std::string &name, const std::string &why) 
     ++stats_.unreadable;
 }
 
-void DecodeSession::write_line(const std::string &line) {
-    if (output_failed_) return;
-    std::fputs(line.c_str(), out_);
-    std::fputc('\n', out_);
-    check_output();
+void DecodeSession::record_written() {
+    if (terminal_ || buffer_.full()) flush();
 }
 
 void DecodeSession::check_output() {
@@ -105,6 +135,30 @@ bool DecodeSession::decode_file(const std::string &path) {
     const InputKind kind = detect_input(head.data(), n);
     if (kind == InputKind::Pcap || kind == InputKind::Pcapng) return decode_capture(path, file);
 
+    // A regular file is mapped rather than read: the blocks are decoded
+    // where they lie, and memory holds no copy of the input. (A file cut
+    // shorter by another program while it is decoded cannot be read that
+    // way; recorders append, they do not cut.)
+    struct stat st;
+    if (fstat(fileno(file), &st) == 0 && S_ISREG(st.st_mode) && st.st_size > 0 &&
+        static_cast<uint64_t>(st.st_size) == total) {
+        const size_t size = static_cast<size_t>(st.st_size);
+        // Smaller files are paged in at once (cheaper than a fault per
+        // page); larger ones as they are read, so that decoding starts at once.
+        constexpr size_t kPopulate = 256u << 20;
+        void *map = mmap(nullptr, size, PROT_READ, MAP_PRIVATE | (size <= kPopulate ? MAP_POPULATE : 0),
+                         fileno(file), 0);
+        if (map != MAP_FAILED) {
+            std::fclose(file);
+            madvise(map, size, MADV_SEQUENTIAL);
+            read_first_ = false;
+            decode_octets(path, kind, static_cast<const uint8_t *>(map), size);
+            read_first_ = true;
+            munmap(map, size);
+            return true;
+        }
+    }
+
     std::vector<uint8_t> data;
     std::string error;
     const bool ok = read_stream(file, data, error, [this](uint64_t done) {
@@ -150,6 +204,7 @@ bool DecodeSession::decode_capture(const std::string &name, std::FILE *file) {
         [this](uint64_t done) {
             if (on_progress) on_progress(done);
         });
+    flush();
     if (!ok) {
         unreadable(name, "not a readable capture: " + error);
         return false;
@@ -177,14 +232,18 @@ void DecodeSession::decode_octets(const std::string &name, InputKind kind, const
     chunk.data = data;
     chunk.size = size;
     decode_chunk(name, chunk, true);
+    flush();
 }
 
 bool DecodeSession::decode_chunk(const std::string &name, const Chunk &chunk, bool whole_input) {
     for (const BlockSlice &slice : split_blocks(chunk)) {
         if (output_failed_) return false;
         const uint64_t number = ++block_no_;
-        if (whole_input && on_progress && chunk.size > 0)  // decoding is the second half
-            on_progress(total_ / 2 + static_cast<uint64_t>(static_cast<double>(total_) / 2 *
+        if (whole_input && on_progress && chunk.size > 0)  // decoding is the second half, or all of it
+            on_progress(read_first_ ? total_ / 2 + static_cast<uint64_t>(static_cast<double>(total_) / 2 *
+                                                                         static_cast<double>(slice.where.offset) /
+                                                                         static_cast<double>(chunk.size))
+                                    : static_cast<uint64_t>(static_cast<double>(total_) *
                                                             static_cast<double>(slice.where.offset) /
                                                             static_cast<double>(chunk.size)));
         const std::string at = "block " + std::to_string(number) + " at " + format_location(slice.where);
@@ -236,14 +295,16 @@ void DecodeSession::emit(const std::string &name, uint64_t block, const Chunk &c
             check_output();
             return;
         }
-        if (settings_.json) {
-            write_line(json_line(record_json(view)));
-            return;
+        switch (settings_.format) {
+        case RecordFormat::None: return;
+        case RecordFormat::Json: formatter_.json_line(view); break;
+        case RecordFormat::Csv: csv_->row(view); break;
+        case RecordFormat::Text:
+            formatter_.text_line(view);
+            if (settings_.items) formatter_.item_lines(record);
+            break;
         }
-        write_line(record_line(view));
-        if (settings_.items)
-            for (uint64_t i = 0; i < record.item_count && i < AST_DATARECORD_MAX_ITEMS; ++i)
-                write_line(item_line(record.items[i]));
+        record_written();
     };
     for (uint64_t i = 0; i < b.record_count && i < AST_DATABLOCK_MAX_RECORDS; ++i)
         one(b.records[i], static_cast<size_t>(i) + 1);

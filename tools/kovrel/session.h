@@ -4,27 +4,44 @@
 #include <cstdint>
 #include <cstdio>
 #include <functional>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include <kovrel/kovrel.h>
 
 #include "decode.h"
 #include "input.h"
+#include "out_buffer.h"
+#include "output.h"
+#include "output_csv.h"
 #include "stats.h"
 
 namespace kovrel_tool {
 
 class HtmlPage;
 
+// How records are written (without a page).
+enum class RecordFormat {
+    Text,  // one line per record (see output.h)
+    Json,  // JSON Lines
+    Csv,   // a header row, then one row per record (see output_csv.h)
+    None,  // nothing: the records are decoded and counted only
+};
+
 struct SessionSettings {
     const AstUap *uap = nullptr;  // nullptr: smart decoding
-    bool json = false;            // JSON Lines instead of text (without a page)
+    RecordFormat format = RecordFormat::Text;
     bool items = false;           // text: one line per item as well
+    std::vector<CsvColumn> columns;  // csv
 };
 
 // Decodes inputs one after the other, writes the records to `out` and
 // reports bad blocks and unreadable inputs on `messages`, each message one
 // line "kovrel: INPUT: ...". Blocks are numbered from 1 in each input.
+// Records are formatted into a buffer that goes out in large writes: when
+// it is full, before each message, and when an input is done (after every
+// record when `out` is a terminal).
 //
 // A bad block is reported and the next one decoded: the next block starts
 // LEN octets further when LEN is at least 3 and fits the chunk; otherwise
@@ -33,6 +50,9 @@ struct SessionSettings {
 class DecodeSession {
 public:
     DecodeSession(const SessionSettings &settings, std::FILE *out, std::FILE *messages);
+    ~DecodeSession();
+    DecodeSession(const DecodeSession &) = delete;
+    DecodeSession &operator=(const DecodeSession &) = delete;
 
     // Reads a file ("-" is standard input; pipes are read whole first).
     // Returns false when it cannot be opened or read at all.
@@ -42,8 +62,12 @@ public:
 
     // Writes what follows to out: records as lines, or, with a page, the
     // records and the messages (these still go to `messages` as well) into
-    // the page, which writes on out too.
+    // the page, which writes on out too. Records not written yet go to the
+    // output they were made for first.
     void set_output(std::FILE *out, HtmlPage *page = nullptr);
+    // Writes the records held so far (decoding an input ends with it, and
+    // so does every message; call it before closing `out`).
+    void flush();
 
     const Stats &stats() const { return stats_; }
     // True once writing a record failed (a closed pipe, a full disk): the
@@ -65,7 +89,7 @@ private:
     bool decode_chunk(const std::string &name, const Chunk &chunk, bool whole_input);
     void emit(const std::string &name, uint64_t block, const Chunk &chunk, const Location &where,
               const BlockOutcome &outcome);
-    void write_line(const std::string &line);
+    void record_written();
     void check_output();
     void message(const std::string &name, const std::string &text);
     void unreadable(const std::string &name, const std::string &why);
@@ -74,10 +98,15 @@ private:
     std::FILE *out_;
     std::FILE *messages_;
     HtmlPage *page_ = nullptr;
+    OutBuffer buffer_;
+    RecordFormatter formatter_;
+    std::unique_ptr<CsvWriter> csv_;
+    bool terminal_ = false;  // out is a terminal: records go out one by one
     BlockDecoder decoder_;
     Stats stats_;
     uint64_t block_no_ = 0;
     uint64_t total_ = 0;  // octets of the current input, for progress
+    bool read_first_ = true;  // the input was read before it is decoded (not mapped)
     bool output_failed_ = false;
     int output_errno_ = 0;
 };

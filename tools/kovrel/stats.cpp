@@ -21,17 +21,37 @@ void Stats::count_block(const AstDataBlock &block, uint32_t category, size_t siz
         ++records;
         c.items += r.item_count;
         items += r.item_count;
-        ++profiles[profile_label(r.uap, r.category)];
-        AstDataSourceIdentifier src;
-        ast_datarecord_get_sacsic(&src, &r);
-        if (src.valid) ++sources[{category, src.sac, src.sic}];
-        AstRecordMsgType type;
-        ast_datarecord_get_msgtype(&type, &r);
-        if (type.valid) {
-            const char *name = ast_msgtype_to_str(type.value);
-            ++message_types[{category, name ? name : std::to_string(type.value)}];
-        }
+        const char *label = label_(r);
+        size_t l = 0;
+        while (l < labels_.size() && labels_[l] != label) ++l;
+        if (l == labels_.size()) labels_.push_back(label);
+        label_counts_.add({static_cast<uint32_t>(l), 0, 0});
+        RecordFields &f = fields_;
+        reader_.read(f, r, kAskSource | kAskType);
+        if (f.answered & kAskSource) source_counts_.add({category, f.sac, f.sic});
+        if (f.answered & kAskType) type_counts_.add({category, f.msgtype, 0});
     }
+}
+
+std::map<std::string, uint64_t> Stats::profiles() const {
+    std::map<std::string, uint64_t> out;
+    for (const auto &[key, n] : label_counts_.counts) out[labels_[key.a]] += n;
+    return out;
+}
+
+std::map<std::tuple<uint32_t, uint32_t, uint32_t>, uint64_t> Stats::sources() const {
+    std::map<std::tuple<uint32_t, uint32_t, uint32_t>, uint64_t> out;
+    for (const auto &[key, n] : source_counts_.counts) out[{key.a, key.b, key.c}] += n;
+    return out;
+}
+
+std::map<std::pair<uint32_t, std::string>, uint64_t> Stats::message_types() const {
+    std::map<std::pair<uint32_t, std::string>, uint64_t> out;
+    for (const auto &[key, n] : type_counts_.counts) {
+        const char *name = ast_msgtype_to_str(key.b);
+        out[{key.a, name ? name : std::to_string(key.b)}] += n;
+    }
+    return out;
 }
 
 void Stats::count_unusable(int category, size_t size) {
@@ -80,6 +100,9 @@ void Stats::print(std::FILE *out, double seconds) const {
             std::fprintf(out, "    CAT%03u      %10llu %8llu %8llu %9llu %10llu\n", cat, u(c.blocks), u(c.invalid),
                          u(c.records), u(c.items), u(c.octets));
     }
+    const auto sources = this->sources();
+    const auto message_types = this->message_types();
+    const auto profiles = this->profiles();
     if (!sources.empty()) {
         std::fprintf(out, "  per source (SAC/SIC)       records\n");
         for (const auto &[key, n] : sources)

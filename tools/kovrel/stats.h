@@ -6,10 +6,14 @@
 #include <map>
 #include <string>
 #include <tuple>
+#include <unordered_map>
+#include <vector>
 
 #include <kovrel/kovrel.h>
 
+#include "fields.h"
 #include "input.h"
+#include "output.h"
 
 namespace kovrel_tool {
 
@@ -33,9 +37,6 @@ struct Stats {
     bool any_capture = false;
 
     std::map<uint32_t, CategoryCounts> categories;
-    std::map<std::string, uint64_t> profiles;                         // records per profile
-    std::map<std::tuple<uint32_t, uint32_t, uint32_t>, uint64_t> sources;  // (cat, SAC, SIC) -> records
-    std::map<std::pair<uint32_t, std::string>, uint64_t> message_types;    // (cat, type) -> records
 
     // A decoded block; its records are counted when it is valid.
     void count_block(const AstDataBlock &block, uint32_t category, size_t octets, bool valid);
@@ -43,8 +44,55 @@ struct Stats {
     void count_unusable(int category, size_t octets);
     void add_capture(const CaptureStats &c);
 
+    // Records per profile name, per (category, SAC, SIC) and per
+    // (category, message type name, or its number when it has none).
+    std::map<std::string, uint64_t> profiles() const;
+    std::map<std::tuple<uint32_t, uint32_t, uint32_t>, uint64_t> sources() const;
+    std::map<std::pair<uint32_t, std::string>, uint64_t> message_types() const;
+
     // Prints the counts, the time taken and the throughput.
     void print(std::FILE *out, double seconds) const;
+
+private:
+    // Counted per record: keyed by what is at hand (the label's pointer, the
+    // numbers), with the last key kept, as records of one source come in
+    // runs; turned into names only when asked.
+    struct Key {
+        uint32_t a = 0, b = 0, c = 0;
+        bool operator==(const Key &o) const { return a == o.a && b == o.b && c == o.c; }
+    };
+    struct KeyHash {
+        size_t operator()(const Key &k) const {
+            return (static_cast<size_t>(k.a) * 0x9E3779B97F4A7C15ull) ^ (static_cast<size_t>(k.b) << 21) ^ k.c;
+        }
+    };
+    struct Tally {
+        Tally() = default;
+        // A copy starts without a last key: it points into its own counts.
+        Tally(const Tally &o) : counts(o.counts) {}
+        Tally &operator=(const Tally &o) {
+            counts = o.counts;
+            last_count = nullptr;
+            return *this;
+        }
+
+        std::unordered_map<Key, uint64_t, KeyHash> counts;
+        Key last{};
+        uint64_t *last_count = nullptr;
+        void add(const Key &k) {
+            if (!last_count || !(k == last)) {
+                last = k;
+                last_count = &counts[k];
+            }
+            ++*last_count;
+        }
+    };
+
+    std::vector<const char *> labels_;  // profile labels met, indexed by the `a` of label_counts_
+    Tally label_counts_, source_counts_, type_counts_;
+    ProfileLabels label_;
+    RecordFieldReader reader_;
+    RecordFields fields_;  // of the record being counted
 };
 
 }  // namespace kovrel_tool
