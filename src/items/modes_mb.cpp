@@ -131,20 +131,24 @@ bool walk_registers(Walker &w, const FieldRow &, const void *base) {
         unsigned use = 1;
         for (uint32_t j = 0; j < i; ++j)
             if (mb.bds[j].id == reg.id) ++use;
-        char name[32];
-        if (use == 1)
-            std::snprintf(name, sizeof name, "bds%02x", static_cast<unsigned>(reg.id));
-        else
-            std::snprintf(name, sizeof name, "bds%02x_%u", static_cast<unsigned>(reg.id), use);
+        // Written by hand: this runs for every register of every record a
+        // JSON output shows.
+        static const char kHex[] = "0123456789abcdef";
+        const unsigned code = static_cast<unsigned>(reg.id) & 0xFFu;
+        char name[16] = {'b', 'd', 's', kHex[code >> 4], kHex[code & 0xF]};
+        if (use > 1) {
+            name[5] = '_';
+            name[6] = static_cast<char>('0' + use);  // at most 8 registers
+        }
         if (!w.begin(AST_FIELD_GROUP_BEGIN, name)) return false;
 
-        char code[16] = "";
-        ast_bds_type_to_str_simple(code, sizeof code, reg.id);
+        static const char kUpper[] = "0123456789ABCDEF";
+        const char text[3] = {kUpper[code >> 4], ',', kUpper[code & 0xF]};
         AstField f{};
         f.name = "bds";
         f.kind = AST_FIELD_TEXT;
-        f.text = code;
-        f.length = std::strlen(code);
+        f.text = text;
+        f.length = sizeof text;
         if (!w.emit(f)) return false;
 
         const Walked walked = walk_decoded(w, reg);

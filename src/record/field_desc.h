@@ -274,15 +274,18 @@ constexpr FieldRow custom(const char *name, Member m, CustomWalkFn fn) {
 // Emits fields to a visitor, keeping depth and array positions.
 class Walker {
 public:
-    Walker(AstFieldVisitor visitor, void *context) : visitor_(visitor), context_(context) {}
+    // depth: how deep the fields emitted first stand (0 for an item's own).
+    Walker(AstFieldVisitor visitor, void *context, uint32_t depth = 0)
+        : visitor_(visitor), context_(context), depth_(depth) {}
 
     // Emits the rows of d over the structure at base. False when stopped.
     bool walk(const FieldDesc &d, const void *base);
     // Emits one row over the structure at base (nothing when absent).
     bool walk_row(const FieldRow &row, const void *base);
 
-    // Emits one field at the current depth; kind, name and value as given.
-    bool emit(AstField f);
+    // Emits one field at the current depth (f.depth is set); kind, name and
+    // value as given.
+    bool emit(AstField &f);
     bool begin(uint32_t kind, const char *name);  // GROUP_BEGIN or ARRAY_BEGIN
     bool end(uint32_t kind);                      // GROUP_END or ARRAY_END
     bool stopped() const { return stopped_; }
@@ -293,7 +296,7 @@ public:
 private:
     AstFieldVisitor visitor_;
     void *context_;
-    uint32_t depth_ = 0;
+    uint32_t depth_;
     uint32_t index_ = 0;
     bool stopped_ = false;
 };

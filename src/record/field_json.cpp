@@ -6,12 +6,12 @@
 
 #include "record/field_desc.h"
 #include "record/field_read.h"
+#include "record/item_table.h"
 
 namespace {
 
 using namespace kovrel::fields;
 
-// Appends to a bounded buffer and counts what the whole text needs.
 // Writes v in base (8, 10 or 16, upper-case digits) at the end of a
 // 24-character text, zero-padded to width; returns the number of characters.
 size_t digits(char (&text)[24], uint64_t v, unsigned base, size_t width) {
@@ -25,6 +25,41 @@ size_t digits(char (&text)[24], uint64_t v, unsigned base, size_t width) {
     return n;
 }
 
+// Most scaled ASTERIX values are whole multiples of a power of two (1/256
+// NM, 360/2^16 degrees, 1/128 s): such a value below 2^31 with a step of at
+// least 2^-24 is written exactly in fixed notation, which with at most 15
+// significant digits is also the shortest text that reads back as the same
+// double. Returns the length written at text, or 0 for any other value
+// (std::to_chars then writes it).
+size_t dyadic(char (&text)[48], double v) {
+    constexpr int kBits = 24;
+    const double scaled = v * 16777216.0;
+    if (!(std::fabs(v) < 2147483648.0) || scaled != std::trunc(scaled) || (v == 0 && std::signbit(v))) return 0;
+    const auto m = static_cast<int64_t>(scaled);
+    uint64_t a = m < 0 ? static_cast<uint64_t>(-m) : static_cast<uint64_t>(m);
+    const uint64_t whole = a >> kBits;
+    uint64_t fraction = a & ((uint64_t{1} << kBits) - 1);
+    char int_digits[24];
+    const size_t int_count = digits(int_digits, whole, 10, 0);
+    size_t significant = whole != 0 ? int_count : 0;
+    size_t n = 0;
+    if (m < 0) text[n++] = '-';
+    std::memcpy(text + n, int_digits + sizeof int_digits - int_count, int_count);
+    n += int_count;
+    if (fraction != 0) {
+        text[n++] = '.';
+        while (fraction != 0) {
+            fraction *= 10;
+            const auto d = static_cast<unsigned>(fraction >> kBits);
+            fraction &= (uint64_t{1} << kBits) - 1;
+            if (significant > 0 || d != 0) ++significant;
+            text[n++] = static_cast<char>('0' + d);
+        }
+    }
+    return significant <= 15 ? n : 0;
+}
+
+// Appends to a bounded buffer and counts what the whole text needs.
 class JsonOut {
 public:
     JsonOut(char *buffer, size_t size) : buf_(buffer), size_(buffer ? size : 0) {}
@@ -68,6 +103,34 @@ public:
         put('"');
     }
 
+    // A key: the names of the library's tables need no escape and are
+    // written with their quotes and colon in one go.
+    void key(const char *name) {
+        size_t n = 0;
+        for (;; ++n) {
+            const auto c = static_cast<unsigned char>(name[n]);
+            if (c == 0) break;
+            if (c < 0x20 || c >= 0x7F || c == '"' || c == '\\') {
+                string(name, std::strlen(name));
+                put(':');
+                return;
+            }
+        }
+        if (need_ + n + 3 < size_) {
+            char *at = buf_ + need_;
+            at[0] = '"';
+            std::memcpy(at + 1, name, n);
+            at[n + 1] = '"';
+            at[n + 2] = ':';
+            need_ += n + 3;
+            return;
+        }
+        put('"');
+        put(name, n);
+        put('"');
+        put(':');
+    }
+
     void hex(const uint8_t *octets, size_t n) {
         static const char kHex[] = "0123456789ABCDEF";
         put('"');
@@ -94,10 +157,12 @@ public:
             put("null", 4);
             return;
         }
-        char text[32];
-        const auto r = std::to_chars(text, text + sizeof text, v);
-        put(text, static_cast<size_t>(r.ptr - text));
+        char text[48];
+        size_t n = dyadic(text, v);
+        if (n == 0) n = static_cast<size_t>(std::to_chars(text, text + sizeof text, v).ptr - text);
+        put(text, n);
     }
+
     // A number shown in a fixed radix as a string: "7700", "3C654A".
     void radix(uint64_t v, unsigned base, size_t width) {
         char text[24];
@@ -128,10 +193,7 @@ struct JsonState {
 void separator(JsonState &s, const char *name) {
     if (!s.first[s.depth]) s.out.put(',');
     s.first[s.depth] = false;
-    if (!s.array[s.depth] && name) {
-        s.out.string(name, std::strlen(name));
-        s.out.put(':');
-    }
+    if (!s.array[s.depth] && name) s.out.key(name);
 }
 
 int visit(void *context, const AstField *f) {
@@ -177,6 +239,114 @@ int visit(void *context, const AstField *f) {
     return 1;
 }
 
+// The JSON of a description written directly, without building a field for
+// each value: the same text the visitor above writes for the same walk,
+// at a fraction of the cost. Custom rows go through the visitor.
+bool json_walk(JsonState &s, const FieldDesc &d, const void *base);
+
+void json_number(JsonState &s, const FieldRow &row, uint64_t v) {
+    if (row.format == AST_FIELD_FORMAT_OCTAL4)
+        s.out.radix(v, 8, 4);
+    else if (row.format == AST_FIELD_FORMAT_HEX6)
+        s.out.radix(v, 16, 6);
+    else
+        s.out.unsigned_number(v);
+}
+
+bool json_open(JsonState &s, const char *name, bool is_array) {
+    separator(s, name);
+    s.out.put(is_array ? '[' : '{');
+    ++s.depth;
+    s.first[s.depth] = true;
+    s.array[s.depth] = is_array;
+    return true;
+}
+
+void json_close(JsonState &s) {
+    s.out.put(s.array[s.depth] ? ']' : '}');
+    --s.depth;
+}
+
+bool json_row(JsonState &s, const FieldRow &row, const void *base) {
+    if (!row_present(row, base)) return true;
+    const auto *at = static_cast<const uint8_t *>(base) + row.m.offset;
+    switch (row.kind) {
+    case AST_FIELD_FLAG:
+        separator(s, row.name);
+        s.out.put((read_unsigned(row.m, base) != 0) != row.invert ? '1' : '0');
+        return true;
+    case AST_FIELD_UNSIGNED:
+    case AST_FIELD_ENUM:
+        separator(s, row.name);
+        json_number(s, row, read_unsigned(row.m, base));
+        return true;
+    case AST_FIELD_SIGNED:
+        separator(s, row.name);
+        s.out.signed_number(read_signed(row.m, base));
+        return true;
+    case AST_FIELD_REAL:
+        separator(s, row.name);
+        s.out.real(read_real(row, base));
+        return true;
+    case AST_FIELD_TEXT: {
+        separator(s, row.name);
+        const auto *chars = reinterpret_cast<const char *>(at);
+        s.out.string(chars, strnlen(chars, row.m.size));
+        return true;
+    }
+    case AST_FIELD_OCTETS:
+        separator(s, row.name);
+        s.out.hex(at, row.m.size);
+        return true;
+    case kKindOctetsPtr: {
+        const uint8_t *data = nullptr;
+        std::memcpy(&data, at, sizeof data);
+        separator(s, row.name);
+        s.out.hex(data, data ? static_cast<size_t>(read_unsigned(row.count, base)) : 0);
+        return true;
+    }
+    case kKindGroup:
+        if (s.depth >= kMaxDepth || !row.nested) return true;
+        json_open(s, row.name, false);
+        if (!json_walk(s, *row.nested, at)) return false;
+        json_close(s);
+        return true;
+    case kKindArray: {
+        if (s.depth >= kMaxDepth || !row.nested) return true;
+        uint64_t count = read_unsigned(row.count, base);
+        if (count > row.max) count = row.max;
+        const FieldDesc &element = *row.nested;
+        const bool values = element.row_count == 1 && element.rows[0].name == nullptr;
+        json_open(s, row.name, true);
+        for (uint64_t i = 0; i < count; ++i) {
+            const uint8_t *item = at + i * row.stride;
+            if (values) {
+                if (!json_row(s, element.rows[0], item)) return false;
+                continue;
+            }
+            json_open(s, nullptr, false);
+            if (!json_walk(s, element, item)) return false;
+            json_close(s);
+        }
+        json_close(s);
+        return true;
+    }
+    case kKindCustom: {
+        if (s.depth >= kMaxDepth || !row.custom) return true;
+        Walker w(visit, &s, s.depth);
+        return row.custom(w, row, base);
+    }
+    default:
+        return true;
+    }
+}
+
+bool json_walk(JsonState &s, const FieldDesc &d, const void *base) {
+    for (size_t i = 0; i < d.row_count; ++i)
+        if (!json_row(s, d.rows[i], base)) return false;
+    return true;
+}
+
 }  // namespace
 
 namespace {
@@ -205,7 +375,8 @@ size_t write_object(char *buffer, size_t size, Walk walk) {
 namespace kovrel::fields {
 
 size_t write_json(char *buffer, size_t size, const FieldDesc &d, const void *value) {
-    return write_object(buffer, size, [&](JsonState *s) { return walk_value(d, value, visit, s); });
+    return write_object(buffer, size,
+                        [&](JsonState *s) { return json_walk(*s, d, value) ? AST_FIELDS_DONE : AST_FIELDS_STOPPED; });
 }
 
 }  // namespace kovrel::fields
@@ -213,11 +384,22 @@ size_t write_json(char *buffer, size_t size, const FieldDesc &d, const void *val
 extern "C" {
 
 KOVREL_API size_t ast_dataitem_get_fields_json(char *buffer, size_t size, const AstDataItem *item) {
-    return write_object(buffer, size, [&](JsonState *s) { return ast_dataitem_walk_fields(item, visit, s); });
+    if (!item) return write_object(buffer, size, [](JsonState *) { return AST_FIELDS_INVALID; });
+    const kovrel::ItemRow *row = kovrel::find_item_row(item->id);
+    if (!row || !row->decode_ex || !row->fields || item->valid != 1 || (!item->data && item->length > 0))
+        return write_object(buffer, size, [](JsonState *) { return AST_FIELDS_NONE; });
+    alignas(std::max_align_t) unsigned char storage[kMaxStorage];
+    AstDataItemValue value{};
+    row->decode_ex(&value, storage, sizeof storage, item);
+    if (value.valid != 1 || !value.value) return write_object(buffer, size, [](JsonState *) { return AST_FIELDS_INVALID; });
+    return kovrel::fields::write_json(buffer, size, *row->fields, value.value);
 }
 
 KOVREL_API size_t ast_datavalue_get_fields_json(char *buffer, size_t size, const AstDataItemValue *value) {
-    return write_object(buffer, size, [&](JsonState *s) { return ast_datavalue_walk_fields(value, visit, s); });
+    const FieldDesc *d = value ? find_fields(value->id) : nullptr;
+    if (!d || value->valid != 1 || !value->value)
+        return write_object(buffer, size, [](JsonState *) { return AST_FIELDS_NONE; });
+    return kovrel::fields::write_json(buffer, size, *d, value->value);
 }
 
 }  // extern "C"

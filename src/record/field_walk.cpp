@@ -18,7 +18,7 @@ bool row_present(const FieldRow &row, const void *base) {
     return read_unsigned(row.present, base) != 0;
 }
 
-bool Walker::emit(AstField f) {
+bool Walker::emit(AstField &f) {
     if (stopped_) return false;
     f.depth = depth_;
     if (f.unit == nullptr) f.unit = "";

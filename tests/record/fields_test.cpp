@@ -2,7 +2,9 @@
 // JSON text they give, and setting them by name.
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <string>
@@ -292,6 +294,61 @@ TEST(FieldMechanism, SpansThatDoNotDecodeGiveNoFields) {
     char text[64];
     EXPECT_EQ(ast_datavalue_get_fields_json(text, sizeof text, &value), 17u);
     EXPECT_STREQ(text, R"({"sac":7,"sic":8})");
+}
+
+}  // namespace
+
+namespace {
+
+struct OneReal {
+    double v;
+};
+constexpr FieldRow kRealRows[] = {real("v", KOVREL_MEMBER(OneReal, v))};
+constexpr FieldDesc kOneReal = describe<OneReal>(kRealRows);
+
+std::string real_text(double v) {
+    char buf[64];
+    const OneReal r{v};
+    const size_t n = write_json(buf, sizeof buf, kOneReal, &r);
+    return std::string(buf + 5, n - 6);  // inside {"v":...}
+}
+
+TEST(FieldMechanism, RealsAreShortAndReadBackExactly) {
+    const struct {
+        double v;
+        const char *text;
+    } cases[] = {
+        {68.89453125, "68.89453125"},   {-0.5, "-0.5"},
+        {1e6, "1000000"},               {0.00000095367431640625, "0.00000095367431640625"},
+        {0.1, "0.1"},                   {-0.0, "-0"},
+        {0.0, "0"},                     {2147483648.5, "2147483648.5"},
+        {1013.2, "1013.2"},             {359.99450683593750, "359.9945068359375"},
+        {1e300, "1e+300"},              {5.9604644775390625e-08, "5.960464477539063e-08"},
+    };
+    for (const auto &c : cases) EXPECT_EQ(real_text(c.v), c.text) << c.v;
+    // Multiples of powers of two read back as the same double, with no more
+    // significant digits than the shortest form needs.
+    uint64_t seed = 88172645463325252ull;
+    for (int i = 0; i < 20000; ++i) {
+        seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17;
+        const int64_t m = static_cast<int64_t>(seed % 4000000000ull) - 2000000000;
+        const double v = std::ldexp(static_cast<double>(m), -static_cast<int>(seed >> 59));
+        const std::string text = real_text(v);
+        ASSERT_EQ(std::strtod(text.c_str(), nullptr), v) << text;
+        char shortest[64];
+        *std::to_chars(shortest, shortest + sizeof shortest, v).ptr = '\0';
+        auto significant = [](const std::string &t) {
+            const std::string mantissa = t.substr(0, t.find('e'));
+            std::string digits;
+            for (char c : mantissa)
+                if (c >= '0' && c <= '9') digits += c;
+            const size_t first = digits.find_first_not_of('0');
+            if (first == std::string::npos) return size_t{0};
+            const size_t last = digits.find_last_not_of('0');
+            return last - first + 1;
+        };
+        ASSERT_LE(significant(text), significant(shortest)) << text << " " << shortest;
+    }
 }
 
 }  // namespace
