@@ -5,7 +5,11 @@
 // CAT048 record, and assembles CAT048 records from arbitrary member values.
 #include <cstddef>
 #include <cstdint>
+#include <cmath>
+#include <cstdio>
 #include <cstring>
+#include <string>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
@@ -67,6 +71,80 @@ int collect(void *context, const AstField *f) {
 
 int stop_at_third(void *context, const AstField *) { return ++*static_cast<int *>(context) < 3; }
 
+// The item's fields as a JSON tree built from the public walk, to compare
+// with the JSON text the library writes directly.
+struct Tree {
+    nlohmann::json root = nlohmann::json::object();
+    std::vector<nlohmann::json *> open{&root};
+};
+
+std::string text_as_utf8(const char *text, size_t n) {
+    std::string out;
+    for (size_t i = 0; i < n; ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        if (c < 0x80) {
+            out += static_cast<char>(c);
+        } else {
+            out += static_cast<char>(0xC0 | (c >> 6));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        }
+    }
+    return out;
+}
+
+int build_tree(void *context, const AstField *f) {
+    auto &t = *static_cast<Tree *>(context);
+    nlohmann::json value;
+    char text[32];
+    switch (f->kind) {
+    case AST_FIELD_GROUP_END:
+    case AST_FIELD_ARRAY_END:
+        t.open.pop_back();
+        return 1;
+    case AST_FIELD_GROUP_BEGIN: value = nlohmann::json::object(); break;
+    case AST_FIELD_ARRAY_BEGIN: value = nlohmann::json::array(); break;
+    case AST_FIELD_FLAG:
+    case AST_FIELD_UNSIGNED:
+    case AST_FIELD_ENUM:
+        if (f->format == AST_FIELD_FORMAT_OCTAL4) {
+            std::snprintf(text, sizeof text, "%04llo", static_cast<unsigned long long>(f->u));
+            value = text;
+        } else if (f->format == AST_FIELD_FORMAT_HEX6) {
+            std::snprintf(text, sizeof text, "%06llX", static_cast<unsigned long long>(f->u));
+            value = text;
+        } else {
+            value = f->u;
+        }
+        break;
+    case AST_FIELD_SIGNED: value = f->i; break;
+    case AST_FIELD_REAL:
+        if (std::isfinite(f->real)) value = f->real;
+        break;
+    case AST_FIELD_TEXT: value = text_as_utf8(f->text, f->length); break;
+    case AST_FIELD_OCTETS: {
+        std::string hex;
+        for (size_t i = 0; i < f->length; ++i) {
+            std::snprintf(text, sizeof text, "%02X", f->octets[i]);
+            hex += text;
+        }
+        value = hex;
+        break;
+    }
+    default: __builtin_trap();
+    }
+    nlohmann::json &parent = *t.open.back();
+    nlohmann::json *placed;
+    if (parent.is_array()) {
+        parent.push_back(value);
+        placed = &parent.back();
+    } else {
+        if (!f->name) __builtin_trap();
+        placed = &(parent[f->name] = value);
+    }
+    if (f->kind == AST_FIELD_GROUP_BEGIN || f->kind == AST_FIELD_ARRAY_BEGIN) t.open.push_back(placed);
+    return 1;
+}
+
 // The fields of an item: their JSON parses, a cut JSON keeps its size, and
 // an item that encodes back to its own octets encodes the same from values
 // set by name.
@@ -79,6 +157,9 @@ void exercise_fields(const AstDataItem &item, const void *decoded) {
     }
     if (n >= sizeof json || std::strlen(json) != n) __builtin_trap();
     if (!nlohmann::json::accept(json, json + n)) __builtin_trap();
+    Tree tree;
+    if (ast_dataitem_walk_fields(&item, build_tree, &tree) != AST_FIELDS_DONE) __builtin_trap();
+    if (nlohmann::json::parse(json, json + n) != tree.root) __builtin_trap();
     const size_t cut = n / 2 + 1;
     if (ast_dataitem_get_fields_json(g_text, cut, &item) != n || std::strlen(g_text) != cut - 1) __builtin_trap();
     int visited = 0;
