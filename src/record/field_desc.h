@@ -293,16 +293,20 @@ public:
     // The position the next element of the innermost array gets.
     void set_index(uint32_t index) { index_ = index; }
 
+    // A writer that renders descriptions itself (the JSON writer) handles
+    // walk() directly; begin, end and emit still reach the visitor.
+    using DirectWalk = bool (*)(void *context, const FieldDesc &d, const void *base);
+    void set_direct(DirectWalk direct) { direct_ = direct; }
+
 private:
     AstFieldVisitor visitor_;
     void *context_;
     uint32_t depth_;
     uint32_t index_ = 0;
+    DirectWalk direct_ = nullptr;
     bool stopped_ = false;
 };
 
-// True when the row's presence condition holds over the structure at base.
-bool row_present(const FieldRow &row, const void *base);
 
 // The description of an identifier's structure, or nullptr.
 const FieldDesc *find_fields(AstItemId id);

@@ -62,6 +62,8 @@ size_t dyadic(char (&text)[48], double v) {
 // Appends to a bounded buffer and counts what the whole text needs.
 class JsonOut {
 public:
+    static constexpr size_t kShortKey = 32;
+
     JsonOut(char *buffer, size_t size) : buf_(buffer), size_(buffer ? size : 0) {}
 
     void put(char c) {
@@ -103,30 +105,24 @@ public:
         put('"');
     }
 
-    // A key: the names of the library's tables need no escape and are
-    // written with their quotes and colon in one go.
+    // A key: names come from the library's own tables (lower-case letters,
+    // digits and '_'), so they need no escape and are written with their
+    // quotes and colon in one go.
     void key(const char *name) {
-        size_t n = 0;
-        for (;; ++n) {
-            const auto c = static_cast<unsigned char>(name[n]);
-            if (c == 0) break;
-            if (c < 0x20 || c >= 0x7F || c == '"' || c == '\\') {
-                string(name, std::strlen(name));
-                put(':');
+        if (need_ + kShortKey + 3 < size_) {
+            char *at = buf_ + need_;
+            *at++ = '"';
+            size_t n = 0;
+            for (; n < kShortKey && name[n] != '\0'; ++n) at[n] = name[n];
+            if (name[n] == '\0') {
+                at[n] = '"';
+                at[n + 1] = ':';
+                need_ += n + 3;
                 return;
             }
         }
-        if (need_ + n + 3 < size_) {
-            char *at = buf_ + need_;
-            at[0] = '"';
-            std::memcpy(at + 1, name, n);
-            at[n + 1] = '"';
-            at[n + 2] = ':';
-            need_ += n + 3;
-            return;
-        }
         put('"');
-        put(name, n);
+        put(name);
         put('"');
         put(':');
     }
@@ -334,6 +330,9 @@ bool json_row(JsonState &s, const FieldRow &row, const void *base) {
     case kKindCustom: {
         if (s.depth >= kMaxDepth || !row.custom) return true;
         Walker w(visit, &s, s.depth);
+        w.set_direct([](void *context, const FieldDesc &d, const void *at) {
+            return json_walk(*static_cast<JsonState *>(context), d, at);
+        });
         return row.custom(w, row, base);
     }
     default:

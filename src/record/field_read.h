@@ -58,6 +58,11 @@ inline double read_real(const FieldRow &row, const void *base) {
     return static_cast<double>(read_unsigned(row.m, base)) * scale;
 }
 
+// True when the row's presence condition holds over the structure at base.
+inline bool row_present(const FieldRow &row, const void *base) {
+    return row.present.store == Store::None || read_unsigned(row.present, base) != 0;
+}
+
 // Smallest and largest integer a member can hold, narrowed to `bits` when
 // the row gives a wire width.
 inline void integer_limits(const Member &m, uint8_t bits, int64_t &lo, uint64_t &hi) {

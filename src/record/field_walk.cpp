@@ -13,11 +13,6 @@ const FieldDesc *find_fields(AstItemId id) {
     return row && row->decode_ex ? row->fields : nullptr;
 }
 
-bool row_present(const FieldRow &row, const void *base) {
-    if (row.present.store == Store::None) return true;
-    return read_unsigned(row.present, base) != 0;
-}
-
 bool Walker::emit(AstField &f) {
     if (stopped_) return false;
     f.depth = depth_;
@@ -133,6 +128,11 @@ bool Walker::walk_row(const FieldRow &row, const void *base) {
 }
 
 bool Walker::walk(const FieldDesc &d, const void *base) {
+    if (stopped_) return false;
+    if (direct_) {
+        if (!direct_(context_, d, base)) stopped_ = true;
+        return !stopped_;
+    }
     const uint32_t index = index_;
     for (size_t i = 0; i < d.row_count; ++i) {
         index_ = 0;
