@@ -443,6 +443,27 @@ ItemOctets item_from_hex(AstItemId id, const std::string &name, const json &hex)
     return ItemOctets{id, std::move(octets)};
 }
 
+// True when hex holds one item of the identifier whose fields are exactly
+// the given ones: an item passed through unchanged is then copied octet for
+// octet, even where an encoder writes a value back at a coarser resolution
+// than the item carries (I021/131). Edited fields make the item go through
+// its encoder.
+bool fields_of_hex(AstItemId id, const json &hex, const json &fields) {
+    try {
+        const ItemOctets octets = item_from_hex(id, "", hex);
+        const AstDataItem item{octets.octets.data(), octets.octets.size(), id, 1};
+        std::vector<char> text(256);
+        size_t n = ast_dataitem_get_fields_json(text.data(), text.size(), &item);
+        if (n >= text.size()) {
+            text.resize(n + 1);
+            n = ast_dataitem_get_fields_json(text.data(), text.size(), &item);
+        }
+        return n > 0 && json::parse(text.data(), text.data() + n) == fields;
+    } catch (const std::exception &) {
+        return false;
+    }
+}
+
 // ---- Records ----------------------------------------------------------------
 
 bool same_text(const std::string &a, const std::string &b) {
@@ -489,7 +510,7 @@ std::vector<ItemOctets> listed_items(const json &list, const RecordRequest &r, c
             bad(name, "given twice");
         const bool by_fields = (ast_dataitem_get_capabilities(id) & AST_DATAITEM_CAP_ENCODE) != 0 &&
                                ast_dataitem_has_fields(id) == 1 && object.contains("fields");
-        if (by_fields)
+        if (by_fields && !(object.contains("hex") && fields_of_hex(id, object["hex"], object["fields"])))
             items.push_back(item_from_fields(id, name, object["fields"]));
         else if (object.contains("hex"))
             items.push_back(item_from_hex(id, name, object["hex"]));

@@ -69,14 +69,18 @@ public:
     BlockWriter(std::FILE *out, size_t block_records, EncodeCounts &counts)
         : out_(out), limit_(block_records), counts_(counts) {}
 
-    void add(uint32_t category, std::vector<uint8_t> record) {
-        if (records_ > 0 && (category_ != category || records_ == limit_ ||
+    // A block holds records of one category written with one profile: a
+    // reader decodes the whole block with one profile.
+    void add(uint32_t category, const AstUap &uap, std::vector<uint8_t> record) {
+        const bool same_profile = uap.max_frn == uap_.max_frn && uap.get_dataitem == uap_.get_dataitem;
+        if (records_ > 0 && (category_ != category || !same_profile || records_ == limit_ ||
                              block_.size() + record.size() > AST_DATABLOCK_MAX_LENGTH))
             flush();
         if (records_ == 0) {
             block_.assign(3, 0);
             block_[0] = static_cast<uint8_t>(category);
             category_ = category;
+            uap_ = uap;
         }
         block_.insert(block_.end(), record.begin(), record.end());
         ++records_;
@@ -103,6 +107,7 @@ private:
     EncodeCounts &counts_;
     std::vector<uint8_t> block_;
     uint32_t category_ = 0;
+    AstUap uap_{};
     size_t records_ = 0;
 };
 
@@ -127,7 +132,7 @@ EncodeCounts encode_lines(std::FILE *in, const std::string &name, std::FILE *out
         try {
             if (record_from_json(nlohmann::json::parse(text), request, error) &&
                 assemble_record(request, record, error, *check))
-                writer.add(request.category, std::move(record));
+                writer.add(request.category, request.uap, std::move(record));
         } catch (const nlohmann::json::parse_error &e) {
             error = "not JSON: " + parse_error_text(e.what());
         }
