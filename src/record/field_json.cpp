@@ -14,12 +14,14 @@ using namespace kovrel::fields;
 
 // Writes v in base (8, 10 or 16, upper-case digits) at the end of a
 // 24-character text, zero-padded to width; returns the number of characters.
-size_t digits(char (&text)[24], uint64_t v, unsigned base, size_t width) {
+// The base is a template argument so that the division is by a constant.
+template <unsigned Base>
+size_t digits(char (&text)[24], uint64_t v, size_t width = 0) {
     static const char kDigits[] = "0123456789ABCDEF";
     size_t n = 0;
     do {
-        text[sizeof text - 1 - n++] = kDigits[v % base];
-        v /= base;
+        text[sizeof text - 1 - n++] = kDigits[v % Base];
+        v /= Base;
     } while (v != 0);
     while (n < width && n < sizeof text) text[sizeof text - 1 - n++] = '0';
     return n;
@@ -34,13 +36,14 @@ size_t digits(char (&text)[24], uint64_t v, unsigned base, size_t width) {
 size_t dyadic(char (&text)[48], double v) {
     constexpr int kBits = 24;
     const double scaled = v * 16777216.0;
-    if (!(std::fabs(v) < 2147483648.0) || scaled != std::trunc(scaled) || (v == 0 && std::signbit(v))) return 0;
-    const auto m = static_cast<int64_t>(scaled);
+    if (!(std::fabs(v) < 2147483648.0) || (v == 0 && std::signbit(v))) return 0;
+    const auto m = static_cast<int64_t>(scaled);  // exact: |scaled| < 2^55
+    if (static_cast<double>(m) != scaled) return 0;
     uint64_t a = m < 0 ? static_cast<uint64_t>(-m) : static_cast<uint64_t>(m);
     const uint64_t whole = a >> kBits;
     uint64_t fraction = a & ((uint64_t{1} << kBits) - 1);
     char int_digits[24];
-    const size_t int_count = digits(int_digits, whole, 10, 0);
+    const size_t int_count = digits<10>(int_digits, whole);
     size_t significant = whole != 0 ? int_count : 0;
     size_t n = 0;
     if (m < 0) text[n++] = '-';
@@ -141,7 +144,7 @@ public:
     // tables in function-local statics that a shared object would export.
     void unsigned_number(uint64_t v) {
         char text[24];
-        const size_t n = digits(text, v, 10, 0);
+        const size_t n = digits<10>(text, v);
         put(text + sizeof text - n, n);
     }
     void signed_number(int64_t v) {
@@ -162,7 +165,7 @@ public:
     // A number shown in a fixed radix as a string: "7700", "3C654A".
     void radix(uint64_t v, unsigned base, size_t width) {
         char text[24];
-        const size_t n = digits(text, v, base, width);
+        const size_t n = base == 8 ? digits<8>(text, v, width) : digits<16>(text, v, width);
         put('"');
         put(text + sizeof text - n, n);
         put('"');
