@@ -26,7 +26,7 @@
 namespace kovrel {
 namespace {
 
-// Flags of a conversion specification.
+// Flags of a conversion directive.
 constexpr uint8_t kLeft = 1;    // '-'
 constexpr uint8_t kPlus = 2;    // '+'
 constexpr uint8_t kSpace = 4;   // ' '
@@ -35,7 +35,7 @@ constexpr uint8_t kZero = 16;   // '0'
 
 enum class Length : uint8_t { None, Hh, H, L, Ll, Z };
 
-// One conversion specification; small enough to travel in registers.
+// One conversion directive; small enough to travel in registers.
 struct Spec {
     uint8_t flags;
     char conversion;
@@ -64,9 +64,9 @@ inline bool read_count(const char *&p, uint32_t &value) {
     return *p != '$';
 }
 
-// Parses the specification after a '%' (not "%%") up to its conversion
+// Parses the directive after a '%' (not "%%") up to its conversion
 // character; p is left on that character. Stars are marked in star_width
-// and star_precision. False when the specification is not one of ours.
+// and star_precision. False when the directive is not one of ours.
 inline bool parse(const char *&p, Spec &s, bool &star_width, bool &star_precision) {
     uint8_t flags = 0;
     for (;; ++p) {
@@ -137,7 +137,7 @@ inline bool parse(const char *&p, Spec &s, bool &star_width, bool &star_precisio
     }
 }
 
-// The specifications the library writes nearly always ("%d", "%02d",
+// The directives the library writes nearly always ("%d", "%02d",
 // "%.2f", "%.6X", "%s"): at most the '0' flag, a width and a precision of
 // one or two digits, no length modifier. False (with p unchanged) for any
 // other, which parse then reads.
@@ -314,7 +314,7 @@ __attribute__((noinline)) char *integer_field(char *end, Spec s, bool negative, 
     return finish_field(p, end, s, prefix, prefix_len, (s.flags & kZero) && s.precision < 0);
 }
 
-// integer_field for the specifications without flags other than '0'.
+// integer_field for the directives without flags other than '0'.
 inline char *plain_integer_field(char *end, Spec s, bool negative, uint64_t magnitude) {
     char *p = end;
     if (magnitude != 0 || s.precision != 0) p = digits(p, s.conversion, magnitude);
