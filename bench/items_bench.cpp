@@ -73,6 +73,28 @@ void BM_SampleDecodeStructured(benchmark::State &state) {
 }
 BENCHMARK(BM_SampleDecodeStructured);
 
+// Every item's named fields as JSON, and the same walk through a visitor
+// that only counts: what the JSON writing adds on top of the walk.
+void BM_SampleFieldsJson(benchmark::State &state) {
+    char text[4096];
+    run_sample(state, [&](const AstDataItem &item) {
+        ast_dataitem_get_fields_json(text, sizeof text, &item);
+        benchmark::DoNotOptimize(text[0]);
+    });
+}
+BENCHMARK(BM_SampleFieldsJson);
+
+void BM_SampleFieldsWalk(benchmark::State &state) {
+    size_t fields = 0;
+    run_sample(state, [&](const AstDataItem &item) {
+        ast_dataitem_walk_fields(
+            &item, [](void *count, const AstField *) { return static_cast<int>(++*static_cast<size_t *>(count) != 0); },
+            &fields);
+    });
+    benchmark::DoNotOptimize(fields);
+}
+BENCHMARK(BM_SampleFieldsWalk);
+
 void BM_SampleDetailHtml(benchmark::State &state) {
     static char html[1 << 16];
     run_sample(state, [&](const AstDataItem &item) {
