@@ -587,6 +587,58 @@ int vformat_into(char *buffer, size_t size, const char *format, va_list ap) {
     return len > static_cast<size_t>(INT_MAX) ? -1 : static_cast<int>(len);
 }
 
+namespace {
+
+// Stores the field of one conversion, first..end, cut to the buffer.
+int put_field(char *buffer, size_t size, const char *first, const char *end) {
+    const size_t n = static_cast<size_t>(end - first);
+    if (size > 0) {
+        const size_t stored = n < size - 1 ? n : size - 1;
+        copy_chars(buffer, first, stored);
+        buffer[stored] = '\0';
+    }
+    return static_cast<int>(n);
+}
+
+}  // namespace
+
+int format_signed_into(char *buffer, size_t size, long long v, unsigned width) {
+    if (width > kMaxPad) return std::snprintf(buffer, size, "%0*lld", static_cast<int>(width), v);
+    const bool negative = v < 0;
+    const uint64_t magnitude = negative ? 0 - static_cast<uint64_t>(v) : static_cast<uint64_t>(v);
+    char field[kField];
+    char *const end = field + kField;
+    const Spec s{kZero, 'd', Length::Ll, width, -1};
+    return put_field(buffer, size, plain_integer_field(end, s, negative, magnitude), end);
+}
+
+int format_unsigned_into(char *buffer, size_t size, unsigned long long v, unsigned base, unsigned width) {
+    const char conversion = base == 8 ? 'o' : base == 16 ? 'X' : 'u';
+    if (width > kMaxPad) {
+        const char *format = base == 8 ? "%0*llo" : base == 16 ? "%0*llX" : "%0*llu";
+        return std::snprintf(buffer, size, format, static_cast<int>(width), v);
+    }
+    char field[kField];
+    char *const end = field + kField;
+    const Spec s{kZero, conversion, Length::Ll, width, -1};
+    return put_field(buffer, size, plain_integer_field(end, s, false, v), end);
+}
+
+int format_fixed_into(char *buffer, size_t size, double v, unsigned decimals) {
+    if (decimals > kMaxPad) return std::snprintf(buffer, size, "%.*f", static_cast<int>(decimals), v);
+    const Spec s{0, 'f', Length::None, 0, static_cast<int32_t>(decimals)};
+    if (std::isfinite(v) && (std::fabs(v) >= kSmallLimit || decimals > kMaxSmallPrecision)) {
+        char *const buf = size > 0 ? buffer : nullptr;
+        const size_t cap = buf ? size - 1 : 0;
+        const size_t len = put_fixed_large(buf, cap, 0, s, v);
+        if (buf) buf[len < cap ? len : cap] = '\0';
+        return static_cast<int>(len);
+    }
+    char field[kField];
+    char *const end = field + kField;
+    return put_field(buffer, size, fixed_field(end, s, v), end);
+}
+
 int format_into(char *buffer, size_t size, const char *format, ...) {
     va_list ap;
     va_start(ap, format);

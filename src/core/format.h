@@ -27,4 +27,18 @@ int vformat_into(char *buffer, size_t size, const char *format, va_list ap);
 
 int format_into(char *buffer, size_t size, const char *format, ...) __attribute__((format(printf, 3, 4)));
 
+// Single conversions without a format to read, for the texts written most
+// often. Same contract as vformat_into, and the same characters as the
+// format named with each.
+
+// "%0<width>lld" of v: zeros up to width characters, the sign included.
+int format_signed_into(char *buffer, size_t size, long long v, unsigned width);
+
+// "%0<width>llu", "%0<width>llo" or "%0<width>llX" of v, for a base of 10,
+// 8 or 16 (any other base is taken as 10).
+int format_unsigned_into(char *buffer, size_t size, unsigned long long v, unsigned base, unsigned width);
+
+// "%.<decimals>f" of v.
+int format_fixed_into(char *buffer, size_t size, double v, unsigned decimals);
+
 }  // namespace kovrel

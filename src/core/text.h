@@ -60,13 +60,32 @@ public:
 
     void vappendf(const char *format, va_list ap) {
         if (size_ == 0) return;
-        size_t room = size_ - len_;
-        int n = vformat_into(buf_ + len_, room, format, ap);
-        if (n < 0) {
-            buf_[len_] = '\0';
-            return;
-        }
-        len_ += (static_cast<size_t>(n) < room) ? static_cast<size_t>(n) : room - 1;
+        advance(vformat_into(buf_ + len_, size_ - len_, format, ap));
+    }
+
+    // Single numbers, written as the printf conversion named with each,
+    // cut to the room left.
+
+    // "%0<width>lld": v with zeros up to width characters, the sign included.
+    void append_int(long long v, unsigned width = 0) {
+        if (size_ > 0) advance(format_signed_into(buf_ + len_, size_ - len_, v, width));
+    }
+    // "%0<width>llu".
+    void append_uint(unsigned long long v, unsigned width = 0) {
+        if (size_ > 0) advance(format_unsigned_into(buf_ + len_, size_ - len_, v, 10, width));
+    }
+    // "%0<width>llo".
+    void append_octal(unsigned long long v, unsigned width = 0) {
+        if (size_ > 0) advance(format_unsigned_into(buf_ + len_, size_ - len_, v, 8, width));
+    }
+    // "%0<width>llX": upper-case digits.
+    void append_hex(unsigned long long v, unsigned width = 0) {
+        if (size_ > 0) advance(format_unsigned_into(buf_ + len_, size_ - len_, v, 16, width));
+    }
+    // "%.<decimals>f": rounded to nearest, ties to even, on the exact binary
+    // value; "nan", "-nan", "inf" as printf writes them.
+    void append_fixed(double v, unsigned decimals) {
+        if (size_ > 0) advance(format_fixed_into(buf_ + len_, size_ - len_, v, decimals));
     }
 
     // Removes the last character (used to drop the trailing blank of flag lists).
@@ -91,6 +110,17 @@ public:
     }
 
 private:
+    // Takes in the n characters a formatter stored at end() (cut to the room
+    // it had, NUL written); n < 0 leaves the text as it was.
+    void advance(int n) {
+        const size_t room = size_ - len_;
+        if (n < 0) {
+            buf_[len_] = '\0';
+            return;
+        }
+        len_ += (static_cast<size_t>(n) < room) ? static_cast<size_t>(n) : room - 1;
+    }
+
     TextWriter(char *buf, size_t size, int) : buf_(buf), size_(buf ? size : 0), len_(0) {}
     char *buf_;
     size_t size_;

@@ -41,7 +41,10 @@ KOVREL_API void ast_dataitem_aircraft_id_encode(AstDataItem *out, uint8_t *buffe
 
 KOVREL_API void ast_dataitem_aircraft_id_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_aircraft_id_decode,
-                    [](TextWriter &w, const auto &a) { w.appendf("ACID:%s", a.chars); });
+                    [](TextWriter &w, const auto &a) {
+                        w.append("ACID:");
+                        w.append(a.chars);
+                    });
 }
 
 KOVREL_API void ast_dataitem_aircraft_id_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {

@@ -50,7 +50,10 @@ char *code_text(char *buffer, size_t size, uint32_t code, const char *prefix) {
     if (!buffer || size == 0) return nullptr;
     TextWriter w(buffer, size);
     w.append(prefix);
-    w.appendf("%X,%X", static_cast<unsigned>((code >> 4) & 0xFu), static_cast<unsigned>(code & 0xFu));
+    static constexpr char kHex[] = "0123456789ABCDEF";
+    w.append_char(kHex[(code >> 4) & 0xFu]);
+    w.append_char(',');
+    w.append_char(kHex[code & 0xFu]);
     return buffer;
 }
 

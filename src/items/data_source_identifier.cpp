@@ -130,7 +130,10 @@ KOVREL_API void ast_dataitem_data_source_identifier_encode(AstDataItem *out, uin
 KOVREL_API void ast_dataitem_data_source_identifier_get_summary(char *buffer, size_t size,
                                                                 const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_data_source_identifier_decode, [](TextWriter &w, const auto &dsi) {
-        w.appendf("SAC:%03d SIC:%03d", static_cast<int>(dsi.sac), static_cast<int>(dsi.sic));
+        w.append("SAC:");
+        w.append_int(static_cast<int>(dsi.sac), 3);
+        w.append(" SIC:");
+        w.append_int(static_cast<int>(dsi.sic), 3);
     });
 }
 

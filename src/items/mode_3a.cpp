@@ -55,12 +55,19 @@ KOVREL_API void ast_dataitem_mode_3a_code_encode(AstDataItem *out, uint8_t *buff
 KOVREL_API void ast_dataitem_mode_3a_code_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_mode_3a_code_decode, [item](TextWriter &w, const auto &c) {
         if (item->id == kMode2NoFlags) {
-            w.appendf("MODE_2:%04o", c.code);
+            w.append("MODE_2:");
+            w.append_octal(c.code, 4);
             return;
         }
-        w.appendf("%s:%04o%s%s%s", item->id == kMode2 ? "MODE_2" : "MODE_3/A", c.code, c.v ? " NOT_VALIDATED" : "",
-                  c.g ? " GARBLED" : "",
-                  item->id == kMode3aChanged ? (c.changed ? " CHANGED" : "") : (c.l ? " SMOOTHED" : ""));
+        w.append(item->id == kMode2 ? "MODE_2:" : "MODE_3/A:");
+        w.append_octal(c.code, 4);
+        if (c.v) w.append(" NOT_VALIDATED");
+        if (c.g) w.append(" GARBLED");
+        if (item->id == kMode3aChanged) {
+            if (c.changed) w.append(" CHANGED");
+        } else if (c.l) {
+            w.append(" SMOOTHED");
+        }
     });
 }
 

@@ -84,8 +84,10 @@ KOVREL_API void ast_dataitem_mode_c_code_encode(AstDataItem *out, uint8_t *buffe
 
 KOVREL_API void ast_dataitem_mode_c_code_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_mode_c_code_decode, [](TextWriter &w, const auto &c) {
-        w.appendf("MODE_C:%04d%s%s", c.flight_level / 4, c.validated ? "" : " NOT_VALIDATED",
-                  c.garbled ? " GARBLED" : "");
+        w.append("MODE_C:");
+        w.append_int(c.flight_level / 4, 4);
+        if (!c.validated) w.append(" NOT_VALIDATED");
+        if (c.garbled) w.append(" GARBLED");
     });
 }
 
@@ -124,9 +126,12 @@ KOVREL_API void ast_dataitem_mode_c_confidence_decode(AstModeCConfidence *out, c
 
 KOVREL_API void ast_dataitem_mode_c_confidence_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_mode_c_confidence_decode, [](TextWriter &w, const auto &c) {
-        w.appendf("CODE:%.4o ", c.code);
+        w.append("CODE:");
+        w.append_octal(c.code, 4);
+        w.append_char(' ');
         items::append_quality(w, c);
-        w.appendf("%s%s", c.validated ? "" : " NOT_VALIDATED", c.garbled ? " GARBLED" : "");
+        if (!c.validated) w.append(" NOT_VALIDATED");
+        if (c.garbled) w.append(" GARBLED");
     });
 }
 

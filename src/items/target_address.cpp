@@ -65,7 +65,10 @@ KOVREL_API void ast_dataitem_target_address_encode(AstDataItem *out, uint8_t *bu
 
 KOVREL_API void ast_dataitem_target_address_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_target_address_decode,
-                    [](TextWriter &w, const auto &a) { w.appendf("ADDR:%.6X", a.address); });
+                    [](TextWriter &w, const auto &a) {
+                        w.append("ADDR:");
+                        w.append_hex(a.address, 6);
+                    });
 }
 
 KOVREL_API void ast_dataitem_target_address_get_detail_html(char *buffer, size_t size,

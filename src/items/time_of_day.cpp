@@ -61,8 +61,14 @@ KOVREL_API void ast_dataitem_time_of_day_encode(AstDataItem *out, uint8_t *buffe
 
 KOVREL_API void ast_dataitem_time_of_day_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_time_of_day_decode, [](TextWriter &w, const auto &t) {
-        w.appendf("TOD:%02d:%02d:%02d.%03d", static_cast<int>(t.hour), static_cast<int>(t.minute),
-                  static_cast<int>(t.second), static_cast<int>(t.millisecond));
+        w.append("TOD:");
+        w.append_int(static_cast<int>(t.hour), 2);
+        w.append_char(':');
+        w.append_int(static_cast<int>(t.minute), 2);
+        w.append_char(':');
+        w.append_int(static_cast<int>(t.second), 2);
+        w.append_char('.');
+        w.append_int(static_cast<int>(t.millisecond), 3);
     });
 }
 

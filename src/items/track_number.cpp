@@ -61,7 +61,10 @@ KOVREL_API void ast_dataitem_track_number_encode(AstDataItem *out, uint8_t *buff
 
 KOVREL_API void ast_dataitem_track_number_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_track_number_decode,
-                    [](TextWriter &w, const auto &tn) { w.appendf("TRACK_NUM:%04d", static_cast<int>(tn.number)); });
+                    [](TextWriter &w, const auto &tn) {
+                        w.append("TRACK_NUM:");
+                        w.append_int(static_cast<int>(tn.number), 4);
+                    });
 }
 
 }  // extern "C"

@@ -54,7 +54,12 @@ KOVREL_API void ast_dataitem_velocity_polar_encode(AstDataItem *out, uint8_t *bu
 
 KOVREL_API void ast_dataitem_velocity_polar_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_velocity_polar_decode,
-                    [](TextWriter &w, const auto &v) { w.appendf("SPD:%.2f HDG:%.2f", v.speed, v.heading); });
+                    [](TextWriter &w, const auto &v) {
+                        w.append("SPD:");
+                        w.append_fixed(v.speed, 2);
+                        w.append(" HDG:");
+                        w.append_fixed(v.heading, 2);
+                    });
 }
 
 KOVREL_API void ast_dataitem_velocity_polar_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {

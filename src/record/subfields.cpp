@@ -224,7 +224,11 @@ KOVREL_API void ast_dataitem_subfields_get_summary(char *buffer, size_t size, co
     if (split_item(item, &primary, positions, [&present](uint32_t, uint32_t, const uint8_t *, uint64_t) { ++present; }) !=
         Split::Done)
         return;
-    w.appendf("SUBFIELDS:%02u/%02u", present, positions);
+    // "SUBFIELDS:%02u/%02u"
+    w.append("SUBFIELDS:");
+    w.append_uint(present, 2);
+    w.append_char('/');
+    w.append_uint(positions, 2);
 }
 
 KOVREL_API void ast_dataitem_subfields_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {

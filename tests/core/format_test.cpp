@@ -218,6 +218,86 @@ TEST(Format, TextWriterAppendsAndCuts) {
     EXPECT_TRUE(more.full());
 }
 
+// The single-number appenders stand for one printf conversion each. Every
+// value of a table is appended behind "AB" at every buffer size that cuts
+// it somewhere (and with plenty of room), and compared, octet by octet,
+// with snprintf writing "AB" and the conversion.
+template <typename Append, typename... Args>
+void expect_append_like_printf(Append append, const char *format, Args... args) {
+    char reference[kRoom];
+    const int n = std::snprintf(reference, sizeof reference, format, args...);
+    ASSERT_GT(n, 0);
+    ASSERT_LT(static_cast<size_t>(n) + 2, kRoom - 1);
+    const std::string whole = std::string("AB") + reference;
+    for (size_t size = 0; size <= whole.size() + 1; ++size) {
+        if (size > 4 && size + 2 < whole.size()) continue;  // the middle cuts are all alike
+        SCOPED_TRACE(size);
+        char expected[kRoom], actual[kRoom];
+        std::memset(expected, '#', sizeof expected);
+        std::memset(actual, '#', sizeof actual);
+        std::snprintf(size ? expected : nullptr, size, "%s", whole.c_str());
+        kovrel::TextWriter w(size ? actual : nullptr, size);
+        w.append("AB");
+        append(w);
+        EXPECT_EQ(std::string(actual, sizeof actual), std::string(expected, sizeof expected));
+        EXPECT_EQ(w.length(), size ? std::strlen(expected) : 0u);
+    }
+    char plenty[kRoom];
+    kovrel::TextWriter w(plenty, sizeof plenty);
+    w.append("AB");
+    append(w);
+    EXPECT_EQ(std::string(plenty), whole);
+}
+
+// Widths 0 to 64 are built in the field; wider ones go to the C library.
+constexpr unsigned kWidths[] = {0, 1, 2, 3, 4, 6, 8, 19, 20, 21, 23, 64, 65, 80};
+
+TEST(Format, AppendIntegerAgainstPrintf) {
+    const long long signed_values[] = {0,   1,    -1,    7,     -7,     9,      10,        -10,       99,
+                                       -99, 100,  -100,  999,   -1000,  -12345, INT_MAX,   INT_MIN,   LLONG_MAX,
+                                       LLONG_MIN, LLONG_MIN + 1};
+    for (unsigned width : kWidths) {
+        for (long long v : signed_values) {
+            SCOPED_TRACE(testing::Message() << "int " << v << " width " << width);
+            expect_append_like_printf([&](kovrel::TextWriter &w) { w.append_int(v, width); }, "%0*lld",
+                                      static_cast<int>(width), v);
+        }
+    }
+    const unsigned long long unsigned_values[] = {0, 1, 7, 8, 9, 10, 15, 16, 63, 64, 255, 256, 4095, 07777,
+                                                  0xABCDEF, 0xFFFFFF, UINT_MAX, 1ULL << 63, ULLONG_MAX};
+    for (unsigned width : kWidths) {
+        for (unsigned long long v : unsigned_values) {
+            SCOPED_TRACE(testing::Message() << "unsigned " << v << " width " << width);
+            const int star = static_cast<int>(width);
+            expect_append_like_printf([&](kovrel::TextWriter &w) { w.append_uint(v, width); }, "%0*llu", star, v);
+            expect_append_like_printf([&](kovrel::TextWriter &w) { w.append_octal(v, width); }, "%0*llo", star, v);
+            expect_append_like_printf([&](kovrel::TextWriter &w) { w.append_hex(v, width); }, "%0*llX", star, v);
+        }
+    }
+}
+
+TEST(Format, AppendFixedAgainstPrintf) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double inf = std::numeric_limits<double>::infinity();
+    const double values[] = {
+        0.0, -0.0, 0.5, 1.5, 2.5, -0.5, -2.5,          // ties to even at 0 decimals
+        0.05, 0.15, 0.25, 0.35, -0.25, 2.675, 1.005,   // near-ties that are not ties in binary
+        0.125, 0.375, -0.625, 99.95, 99.995, 359.99,   // exact ties, carries into the integer part
+        0.04999999999999999, 1e-7, -1e-7, 5e-324, 1e-300,
+        123456.789, -987654.321, 4294967295.5, 9007199254740993.0,
+        9223372036854774784.0, 9223372036854775808.0, -9223372036854775808.0,  // around 2^63
+        1e20, -1e22, 1.7976931348623157e308, -1.7976931348623157e308,
+        nan, -nan, inf, -inf,
+    };
+    for (unsigned decimals : {0u, 1u, 2u, 3u, 6u, 17u, 18u, 19u, 30u, 64u, 65u}) {
+        for (double v : values) {
+            SCOPED_TRACE(testing::Message() << "value " << v << " decimals " << decimals);
+            expect_append_like_printf([&](kovrel::TextWriter &w) { w.append_fixed(v, decimals); }, "%.*f",
+                                      static_cast<int>(decimals), v);
+        }
+    }
+}
+
 TEST(Format, PositionTextsKeepTheirDigits) {
     struct Case {
         double latitude, longitude;

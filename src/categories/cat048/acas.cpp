@@ -38,7 +38,8 @@ KOVREL_API void ast_dataitem_048_260_decode(AstItem048_260 *out, const AstDataIt
 KOVREL_API void ast_dataitem_048_260_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_260_decode, [](TextWriter &w, const auto &) {
         char code[8];
-        w.appendf("BDS:%s", ast_bds_type_to_str_simple(code, sizeof code, kRegister));
+        w.append("BDS:");
+        w.append(ast_bds_type_to_str_simple(code, sizeof code, kRegister));
     });
 }
 

@@ -50,7 +50,8 @@ KOVREL_API void ast_dataitem_048_230_decode(AstItem048_230 *out, const AstDataIt
 // The summary decodes the item, so it issues the same warnings as decoding.
 KOVREL_API void ast_dataitem_048_230_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_230_decode, [](TextWriter &w, const auto &c) {
-        w.appendf("FS:%s", ast_radar_flight_status_to_str(c.stat));
+        w.append("FS:");
+        w.append(ast_radar_flight_status_to_str(c.stat));
     });
 }
 

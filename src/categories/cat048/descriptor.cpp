@@ -129,7 +129,8 @@ KOVREL_API void ast_dataitem_048_020_encode(AstDataItem *out, uint8_t *buffer, s
 KOVREL_API void ast_dataitem_048_020_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     // Octet 2 fields of a one-octet item keep their defaults (clear).
     items::describe(buffer, size, item, ast_dataitem_048_020_decode, [](TextWriter &w, const auto &d) {
-        w.appendf("TYPE:%s", kTypeText[d.typ & 7u]);
+        w.append("TYPE:");
+        w.append(kTypeText[d.typ & 7u]);
         if (d.sim) w.append(" SIM");
         w.append(d.rdp == 2 ? " CHN2" : " CHN1");
         if (d.spi) w.append(" SPI");

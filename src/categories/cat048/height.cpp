@@ -34,7 +34,11 @@ KOVREL_API void ast_dataitem_048_110_decode(AstItem048_110 *out, const AstDataIt
 
 KOVREL_API void ast_dataitem_048_110_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_110_decode,
-                    [](TextWriter &w, const auto &h) { w.appendf("H:%d LSB:FT", h.height); });
+                    [](TextWriter &w, const auto &h) {
+                        w.append("H:");
+                        w.append_int(h.height);
+                        w.append(" LSB:FT");
+                    });
 }
 
 KOVREL_API void ast_dataitem_048_110_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {

@@ -44,8 +44,11 @@ KOVREL_API void ast_dataitem_048_050_encode(AstDataItem *out, uint8_t *buffer, s
 
 KOVREL_API void ast_dataitem_048_050_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_050_decode, [](TextWriter &w, const auto &c) {
-        w.appendf("MODE_2:%04o%s%s%s", c.code, c.v ? " NOT_VALIDATED" : "", c.g ? " GARBLED" : "",
-                  c.l ? " SMOOTHED" : "");
+        w.append("MODE_2:");
+        w.append_octal(c.code, 4);
+        if (c.v) w.append(" NOT_VALIDATED");
+        if (c.g) w.append(" GARBLED");
+        if (c.l) w.append(" SMOOTHED");
     });
 }
 

@@ -37,19 +37,23 @@ namespace kovrel::cat048 {
 void srl_summary(char *buffer, size_t size, const AstSubfield *span, uint32_t) {
     TextWriter w(buffer, size);
     uint8_t raw = 0;
-    if (subfield_octet(span, &raw)) w.appendf("%.2f LSB=DEG", raw * kRunlengthLsb);
+    if (!subfield_octet(span, &raw)) return;
+    w.append_fixed(raw * kRunlengthLsb, 2);
+    w.append(" LSB=DEG");
 }
 
 void srr_summary(char *buffer, size_t size, const AstSubfield *span, uint32_t) {
     TextWriter w(buffer, size);
     uint8_t count = 0;
-    if (subfield_octet(span, &count)) w.appendf("%d", count);
+    if (subfield_octet(span, &count)) w.append_int(count);
 }
 
 void sam_summary(char *buffer, size_t size, const AstSubfield *span, uint32_t) {
     TextWriter w(buffer, size);
     uint8_t raw = 0;
-    if (subfield_octet(span, &raw)) w.appendf("%d LSB=DBM", static_cast<int8_t>(raw));
+    if (!subfield_octet(span, &raw)) return;
+    w.append_int(static_cast<int8_t>(raw));
+    w.append(" LSB=DBM");
 }
 
 }  // namespace kovrel::cat048

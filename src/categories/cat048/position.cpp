@@ -74,7 +74,12 @@ KOVREL_API void ast_dataitem_048_040_encode(AstDataItem *out, uint8_t *buffer, s
 
 KOVREL_API void ast_dataitem_048_040_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_040_decode,
-                    [](TextWriter &w, const auto &p) { w.appendf("RHO:%.1f THETA:%.1f", p.rho, p.theta); });
+                    [](TextWriter &w, const auto &p) {
+                        w.append("RHO:");
+                        w.append_fixed(p.rho, 1);
+                        w.append(" THETA:");
+                        w.append_fixed(p.theta, 1);
+                    });
 }
 
 KOVREL_API void ast_dataitem_048_040_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {
@@ -104,7 +109,11 @@ KOVREL_API void ast_dataitem_048_042_decode(AstItem048_042 *out, const AstDataIt
 
 KOVREL_API void ast_dataitem_048_042_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_042_decode, [](TextWriter &w, const auto &p) {
-        w.appendf("X:%.1f Y:%.1f LSB:M", p.x * kCartesianLsb * kMetresPerNm, p.y * kCartesianLsb * kMetresPerNm);
+        w.append("X:");
+        w.append_fixed(p.x * kCartesianLsb * kMetresPerNm, 1);
+        w.append(" Y:");
+        w.append_fixed(p.y * kCartesianLsb * kMetresPerNm, 1);
+        w.append(" LSB:M");
     });
 }
 

@@ -57,7 +57,10 @@ KOVREL_API void ast_dataitem_048_170_decode(AstItem048_170 *out, const AstDataIt
 
 KOVREL_API void ast_dataitem_048_170_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_170_decode,
-                    [](TextWriter &w, const auto &s) { w.appendf("TYPE:%s", kRadText[s.rad & 3u]); });
+                    [](TextWriter &w, const auto &s) {
+                        w.append("TYPE:");
+                        w.append(kRadText[s.rad & 3u]);
+                    });
 }
 
 KOVREL_API void ast_dataitem_048_170_get_detail_html(char *buffer, size_t size, const AstDataItem *item) {

@@ -33,7 +33,10 @@ KOVREL_API void ast_dataitem_048_030_decode(AstItem048_030 *out, const AstDataIt
 
 KOVREL_API void ast_dataitem_048_030_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_030_decode, [](TextWriter &w, const auto &d) {
-        for (uint32_t i = 0; i < d.count; ++i) w.appendf("%sERRCODE:%d", i ? "+" : "", static_cast<int>(d.codes[i]));
+        for (uint32_t i = 0; i < d.count; ++i) {
+            w.append(i ? "+ERRCODE:" : "ERRCODE:");
+            w.append_int(static_cast<int>(d.codes[i]));
+        }
     });
 }
 
