@@ -19,6 +19,14 @@ constexpr FieldInfo kFields[kRecordFieldCount] = {
     {"vx", kAskVelocity},    {"vy", kAskVelocity},     {"vrate", kAskRate},
 };
 
+// The keys of the `fields` object as written after a member: ,"name":
+constexpr std::string_view kMemberKeys[kRecordFieldCount] = {
+    ",\"sac\":",     ",\"sic\":",   ",\"tod\":",  ",\"msgtype\":", ",\"track\":",
+    ",\"mode3a\":",  ",\"fl\":",    ",\"sel_alt\":", ",\"callsign\":", ",\"icao\":",
+    ",\"lat\":",     ",\"lon\":",   ",\"rho\":",  ",\"theta\":",   ",\"speed\":",
+    ",\"heading\":", ",\"vx\":",    ",\"vy\":",   ",\"vrate\":",
+};
+
 // "HH:MM:SS.mmm"; parts beyond their usual range print all their digits.
 size_t format_tod(char *text, const AstTimeOfDay &t) {
     char *p = text;
@@ -231,17 +239,41 @@ FieldValue record_field_value(const RecordFields &f, RecordField field, char (&s
 }
 
 void write_fields_json(JsonWriter &json, const RecordFields &f) {
+    // The members are written straight into the buffer: the keys are plain
+    // names, and the times and codes formatted here are plain digits that
+    // need no escaping.
     json.begin_object();
-    char scratch[kFieldScratch];
+    OutBuffer &out = json.out();
+    bool first = true;
     for (size_t i = 0; i < kRecordFieldCount; ++i) {
         const auto field = static_cast<RecordField>(i);
         if (!f.has(field)) continue;
-        json.key(kFields[i].name);
-        const FieldValue v = record_field_value(f, field, scratch);
-        switch (v.kind) {
-        case FieldValue::Unsigned: json.unsigned_number(v.u); break;
-        case FieldValue::Real: json.real(v.real); break;
-        case FieldValue::Text: json.string(std::string_view(v.text, v.length)); break;
+        const std::string_view key = kMemberKeys[i];  // ,"name":
+        if (first)
+            out.put(key.substr(1));
+        else
+            out.put(key);
+        first = false;
+        const auto quoted = [&out](auto format, size_t most) {
+            char *q = out.room(most + 2);
+            *q = '"';
+            const size_t n = format(q + 1);
+            q[n + 1] = '"';
+            out.advance(n + 2);
+        };
+        switch (field) {
+        case RecordField::Tod: quoted([&f](char *q) { return format_tod(q, f.tod); }, 40); break;
+        case RecordField::Mode3a: quoted([&f](char *q) { return format_radix(q, f.mode3a, 3, 4); }, 4); break;
+        case RecordField::Icao: quoted([&f](char *q) { return format_radix(q, f.icao, 4, 6); }, 6); break;
+        default: {
+            char scratch[kFieldScratch];
+            const FieldValue v = record_field_value(f, field, scratch);
+            switch (v.kind) {
+            case FieldValue::Unsigned: out.put_unsigned(v.u); break;
+            case FieldValue::Real: put_json_real(out, v.real); break;
+            case FieldValue::Text: put_json_string(out, v.text, v.length); break;
+            }
+        }
         }
     }
     json.end_object();

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 
 namespace kovrel_tool {
@@ -55,16 +56,118 @@ size_t utf8_sequence(const unsigned char *text, size_t left, size_t *bad) {
     return need + 1;
 }
 
+// Writes value (> 0) at p when its decimal expansion is exact and short,
+// as the general layout below would: most values decoded from the wire are
+// a whole number of halves, quarters, 1/128ths..., whose expansion ends
+// soon. Two different decimals of at most 15 significant digits never make
+// the same double, so such an expansion is also the shortest that reads
+// back the same, which the general conversion finds at a much higher cost.
+// Returns the characters written, 0 when the value is not of that kind.
+size_t write_exact(char *p, double value) {
+    if (!(value >= 1e-4 && value < 1e15)) return 0;
+    const auto whole = static_cast<uint64_t>(value);
+    // The fraction in units of 2^-49; it must be whole in those units.
+    const double scaled = (value - static_cast<double>(whole)) * 562949953421312.0;  // exact
+    const auto units = static_cast<uint64_t>(scaled);
+    if (static_cast<double>(units) != scaled) return 0;
+    // A fraction of m binary places has m decimal places: a / 2^m is
+    // a * 5^m / 10^m.
+    static constexpr uint64_t kPow5[20] = {1ull,
+                                           5ull,
+                                           25ull,
+                                           125ull,
+                                           625ull,
+                                           3125ull,
+                                           15625ull,
+                                           78125ull,
+                                           390625ull,
+                                           1953125ull,
+                                           9765625ull,
+                                           48828125ull,
+                                           244140625ull,
+                                           1220703125ull,
+                                           6103515625ull,
+                                           30517578125ull,
+                                           152587890625ull,
+                                           762939453125ull,
+                                           3814697265625ull,
+                                           19073486328125ull};
+    const int m = units ? 49 - __builtin_ctzll(units) : 0;
+    if (m > 19) return 0;
+    uint64_t decimals = (units >> (49 - m)) * kPow5[m];  // below 10^m
+    char *q = p;
+    if (whole != 0) {
+        q = std::to_chars(q, q + 16, whole).ptr;
+        if ((q - p) + m > 15) return 0;
+        *q++ = '.';
+        if (m == 0) {
+            *q++ = '0';
+            return static_cast<size_t>(q - p);
+        }
+    } else {
+        // At most 15 significant digits after the leading zeros (of which
+        // there are at most three, the value being 0.0001 or more).
+        if (decimals >= 1000000000000000ull) return 0;
+        *q++ = '0';
+        *q++ = '.';
+    }
+    // Two digits at a time from the last, then the first one when m is odd.
+    static constexpr char kPairs[] =
+        "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
+        "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
+        "8081828384858687888990919293949596979899";
+    int i = m;
+    for (; i >= 2; i -= 2) {
+        std::memcpy(q + i - 2, kPairs + (decimals % 100) * 2, 2);
+        decimals /= 100;
+    }
+    if (i == 1) q[0] = static_cast<char>('0' + decimals);
+    return static_cast<size_t>(q + m - p);
+}
+
 }  // namespace
+
+size_t json_plain_prefix(const char *text, size_t length) {
+    // Eight octets at a time: a word stops the run when one of its octets
+    // has the top bit set, is below 0x20, or is '"' or '\\'. The tests are
+    // exact about whether such an octet is in the word, not about where, so
+    // the word that stops is looked at octet by octet.
+    constexpr uint64_t kOnes = 0x0101010101010101ull, kHigh = 0x8080808080808080ull;
+    const auto has_zero = [](uint64_t w) { return (w - kOnes) & ~w & kHigh; };
+    const auto stops = [&](size_t at) {
+        uint64_t w;
+        std::memcpy(&w, text + at, 8);
+        return ((w & kHigh) | ((w - kOnes * 0x20) & ~w & kHigh) | has_zero(w ^ (kOnes * '"')) |
+                has_zero(w ^ (kOnes * '\\'))) != 0;
+    };
+    size_t i = 0;
+    while (length - i >= 8) {
+        if (stops(i)) break;
+        i += 8;
+    }
+    // The last few octets as the last word of the text, read again in part.
+    if (i < length && length >= 8 && length - i < 8 && !stops(length - 8)) return length;
+    const auto *s = reinterpret_cast<const unsigned char *>(text);
+    while (i < length && plain(s[i])) ++i;
+    return i;
+}
 
 void put_json_string(OutBuffer &out, const char *text, size_t length) {
     static const char kHex[] = "0123456789abcdef";
     const auto *s = reinterpret_cast<const unsigned char *>(text);
-    out.put('"');
-    size_t i = 0;
+    // Most texts need no escape at all: quotes and the text in one go.
+    size_t i = json_plain_prefix(text, length);
+    char *at = out.room(length + 2);
+    *at = '"';
+    std::memcpy(at + 1, text, i);
+    if (i == length) {
+        at[length + 1] = '"';
+        out.advance(length + 2);
+        return;
+    }
+    out.advance(i + 1);
     while (i < length) {
-        size_t run = i;
-        while (run < length && plain(s[run])) ++run;
+        const size_t run = i + json_plain_prefix(text + i, length - i);
         if (run > i) {
             out.put(text + i, run - i);
             i = run;
@@ -115,6 +218,7 @@ size_t format_json_real(char *text, double value) {
         std::memcpy(p, "0.0", 3);
         return static_cast<size_t>(p + 3 - text);
     }
+    if (const size_t n = write_exact(p, value)) return static_cast<size_t>(p - text) + n;
     // The shortest digits that read back the same, and where the point goes.
     char sci[32];
     const char *end = std::to_chars(sci, sci + sizeof sci, value, std::chars_format::scientific).ptr;

@@ -23,6 +23,10 @@
 
 namespace kovrel_tool {
 
+// How many leading characters of text a JSON string carries as they are
+// (printable ASCII other than '"' and '\\').
+size_t json_plain_prefix(const char *text, size_t length);
+
 // Appends text as a JSON string, quotes included.
 void put_json_string(OutBuffer &out, const char *text, size_t length);
 inline void put_json_string(OutBuffer &out, std::string_view text) {

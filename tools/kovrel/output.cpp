@@ -1,5 +1,6 @@
 #include "output.h"
 
+#include <charconv>
 #include <cstdio>
 #include <cstring>
 
@@ -21,17 +22,37 @@ std::string id_text(AstItemId id) {
 
 }  // namespace
 
+namespace {
+
+// "xx " for every octet, four characters apart so that one is copied as
+// a word (the fourth character is overwritten by the next one).
+struct HexTable {
+    char pair[256][4];
+    constexpr HexTable() : pair() {
+        const char digits[] = "0123456789abcdef";
+        for (int i = 0; i < 256; ++i) {
+            pair[i][0] = digits[i >> 4];
+            pair[i][1] = digits[i & 0xF];
+            pair[i][2] = ' ';
+            pair[i][3] = ' ';
+        }
+    }
+};
+constexpr HexTable kHexTable;
+
+// Writes the octets as put_item_hex does at p, which has room for n * 3 + 1
+// characters; returns the characters written.
+size_t write_hex(char *p, const uint8_t *data, size_t n) {
+    for (size_t i = 0; i < n; ++i) std::memcpy(p + i * 3, kHexTable.pair[data[i]], 4);
+    return n * 3 - 1;
+}
+
+}  // namespace
+
 void put_item_hex(OutBuffer &out, const AstDataItem &item) {
-    static const char kHex[] = "0123456789abcdef";
     if (item.valid != 1 || item.length == 0 || !item.data) return;
     const size_t n = static_cast<size_t>(item.length);
-    char *p = out.room(n * 3);
-    for (size_t i = 0; i < n; ++i) {
-        *p++ = kHex[item.data[i] >> 4];
-        *p++ = kHex[item.data[i] & 0xF];
-        *p++ = ' ';
-    }
-    out.advance(n * 3 - 1);
+    out.advance(write_hex(out.room(n * 3 + 1), item.data, n));
 }
 
 RecordFormatter::RecordFormatter(OutBuffer &out) : out_(out), summary_(new char[kSummarySize]) {}
@@ -130,14 +151,41 @@ void RecordFormatter::item_lines(const AstDataRecord &r) {
     }
 }
 
-void RecordFormatter::item_json(JsonWriter &json, const AstDataItem &item) {
-    json.raw(item_text(item.id).json_head);
-    out_.put_unsigned(item.length);
-    out_.put(",\"hex\":\"", 8);
-    put_item_hex(out_, item);
-    out_.put("\",\"summary\":", 12);
-    ast_dataitem_get_summary(summary_.get(), kSummarySize, &item);
-    put_json_string(out_, summary_.get(), strnlen(summary_.get(), kSummarySize));
+void RecordFormatter::item_json(const AstDataItem &item) {
+    out_.put(item_text(item.id).json_head);
+    // The length, the hexadecimal octets and the opening of the summary in
+    // one stretch of the buffer.
+    const bool hex = item.valid == 1 && item.length != 0 && item.data;
+    const size_t octets = hex ? static_cast<size_t>(item.length) : 0;
+    char *const start = out_.room(20 + 8 + octets * 3 + 1 + 13);
+    char *p = start;
+    if (item.length < 10)
+        *p++ = static_cast<char>('0' + item.length);
+    else if (item.length < 100) {
+        *p++ = static_cast<char>('0' + item.length / 10);
+        *p++ = static_cast<char>('0' + item.length % 10);
+    } else
+        p = std::to_chars(p, p + 20, item.length).ptr;
+    std::memcpy(p, ",\"hex\":\"", 8);
+    p += 8;
+    if (hex) p += write_hex(p, item.data, octets);
+    std::memcpy(p, "\",\"summary\":\"", 13);
+    p += 13;
+    out_.advance(static_cast<size_t>(p - start));
+
+    // The summary is written straight after its opening quote; the rare one
+    // that needs escaping is taken back and written escaped.
+    char *const summary = out_.room(kSummarySize + 1);
+    ast_dataitem_get_summary(summary, kSummarySize, &item);
+    const size_t length = strnlen(summary, kSummarySize);
+    if (json_plain_prefix(summary, length) == length) {
+        summary[length] = '"';
+        out_.advance(length + 1);
+    } else {
+        std::memcpy(summary_.get(), summary, length);
+        out_.truncate(out_.size() - 1);  // the opening quote
+        put_json_string(out_, summary_.get(), length);
+    }
 
     // The library writes the fields straight into the buffer; when it
     // needs more room than was given it says how much, and is asked again.
@@ -162,52 +210,59 @@ void RecordFormatter::item_json(JsonWriter &json, const AstDataItem &item) {
 
 void RecordFormatter::json_line(const RecordView &v) {
     const AstDataRecord &r = *v.record;
-    JsonWriter json(out_);
-    json.begin_object();
-    json.key("input");
+    // The members are written in place, in their fixed order; what stays
+    // the same from record to record (the input name, the profile label) is
+    // escaped once.
     if (v.input != input_ || input_json_.empty()) {
         input_.assign(v.input);
         OutBuffer scratch(nullptr, 0);
+        scratch.put("{\"input\":", 9);
         put_json_string(scratch, v.input);
+        scratch.put(",\"block\":", 9);
         input_json_.assign(scratch.view());
     }
-    json.raw(input_json_);
-    json.key("block");
-    json.unsigned_number(v.block);
-    json.key("offset");
-    json.unsigned_number(v.where.offset);
+    out_.put(input_json_);
+    out_.put_unsigned(v.block);
+    out_.put(",\"offset\":", 10);
+    out_.put_unsigned(v.where.offset);
     if (v.where.packet != 0) {
-        json.key("packet");
-        json.unsigned_number(v.where.packet);
-        json.key("time");
-        json.real(v.time);
+        out_.put(",\"packet\":", 10);
+        out_.put_unsigned(v.where.packet);
+        out_.put(",\"time\":", 8);
+        put_json_real(out_, v.time);
     }
-    json.key("cat");
-    json.unsigned_number(r.category);
-    json.key("uap");
-    json.string(label_(r));
-    json.key("record");
-    json.unsigned_number(v.number);
-    json.key("length");
+    out_.put(",\"cat\":", 7);
+    out_.put_unsigned(r.category);
+    const char *uap = label_(r);
+    if (uap != uap_ || uap_json_.empty()) {
+        OutBuffer scratch(nullptr, 0);
+        scratch.put(",\"uap\":", 7);
+        put_json_string(scratch, uap, std::strlen(uap));
+        scratch.put(",\"record\":", 10);
+        uap_json_.assign(scratch.view());
+        uap_ = uap;
+    }
+    out_.put(uap_json_);
+    out_.put_unsigned(v.number);
+    out_.put(",\"length\":", 10);
     if (r.valid)
-        json.unsigned_number(r.length);
+        out_.put_unsigned(r.length);
     else
-        json.null();
-    json.key("item_count");
-    json.unsigned_number(r.item_count);
-    json.key("valid");
-    json.boolean(r.valid != 0);
-    json.key("block_valid");
-    json.boolean(v.block_valid);
-    json.key("fields");
+        out_.put("null", 4);
+    out_.put(",\"item_count\":", 14);
+    out_.put_unsigned(r.item_count);
+    out_.put(r.valid ? std::string_view(",\"valid\":true") : std::string_view(",\"valid\":false"));
+    out_.put(v.block_valid ? std::string_view(",\"block_valid\":true,\"fields\":")
+                           : std::string_view(",\"block_valid\":false,\"fields\":"));
     reader_.read(fields_, r, kAskAll);
+    JsonWriter json(out_);
     write_fields_json(json, fields_);
-    json.key("items");
-    json.begin_array();
-    for (uint64_t i = 0; i < r.item_count && i < AST_DATARECORD_MAX_ITEMS; ++i) item_json(json, r.items[i]);
-    json.end_array();
-    json.end_object();
-    out_.put('\n');
+    out_.put(",\"items\":[", 10);
+    for (uint64_t i = 0; i < r.item_count && i < AST_DATARECORD_MAX_ITEMS; ++i) {
+        if (i) out_.put(',');
+        item_json(r.items[i]);
+    }
+    out_.put("]}\n", 3);
 }
 
 }  // namespace kovrel_tool

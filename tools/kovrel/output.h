@@ -92,7 +92,7 @@ private:
     };
     const ItemText &item_text(AstItemId id);
     static ItemText make_item_text(AstItemId id);
-    void item_json(JsonWriter &json, const AstDataItem &item);
+    void item_json(const AstDataItem &item);
 
     OutBuffer &out_;
     std::unordered_map<AstItemId, ItemText> items_;
@@ -105,8 +105,10 @@ private:
     ProfileLabels label_;
     RecordFieldReader reader_;
     RecordFields fields_;  // of the record being written
-    std::string input_;       // the input name last escaped, and its JSON text
-    std::string input_json_;
+    std::string input_;       // the input name last escaped, and the line's
+    std::string input_json_;  // opening up to the block number: {"input":"...","block":
+    const char *uap_ = nullptr;  // the profile label last written, and its JSON text
+    std::string uap_json_;
     std::unique_ptr<char[]> summary_;
 };
 
