@@ -37,15 +37,18 @@ KOVREL_API void ast_dataitem_modes_mb_decode(AstModesMb *out, const AstDataItem 
         ast_log(AST_LOG_WARNING, "Mode-S MB BDS count %u exceeds max %u.", rep, AST_MODES_MB_MAX_BDS);
         return;
     }
-    AstModesMb decoded{};
-    decoded.rep = rep;
+    // Written in place: every record shown asks for this item several
+    // times (summary, fields, selected altitude, heading).
     for (uint32_t i = 0; i < rep; ++i) {
         const uint8_t *mb = item->data + 1 + kRepetition * i;
-        ast_bds_decode(&decoded.bds[i], mb, kMbOctets, mb[kMbOctets]);
-        if (decoded.bds[i].valid != 1) return;
+        ast_bds_decode(&out->bds[i], mb, kMbOctets, mb[kMbOctets]);
+        if (out->bds[i].valid != 1) {
+            *out = AstModesMb{};
+            return;
+        }
     }
-    decoded.valid = 1;
-    *out = decoded;
+    out->rep = rep;
+    out->valid = 1;
 }
 
 KOVREL_API void ast_dataitem_modes_mb_get_summary(char *buffer, size_t size, const AstDataItem *item) {

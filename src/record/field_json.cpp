@@ -33,21 +33,21 @@ size_t digits(char (&text)[24], uint64_t v, size_t width = 0) {
 // significant digits is also the shortest text that reads back as the same
 // double. Returns the length written at text, or 0 for any other value
 // (std::to_chars then writes it).
-size_t dyadic(char (&text)[48], double v) {
+size_t dyadic(char *text, double v) {
     constexpr int kBits = 24;
     const double scaled = v * 16777216.0;
     if (!(std::fabs(v) < 2147483648.0) || (v == 0 && std::signbit(v))) return 0;
     const auto m = static_cast<int64_t>(scaled);  // exact: |scaled| < 2^55
     if (static_cast<double>(m) != scaled) return 0;
     uint64_t a = m < 0 ? static_cast<uint64_t>(-m) : static_cast<uint64_t>(m);
-    const uint64_t whole = a >> kBits;
+    uint64_t whole = a >> kBits;
     uint64_t fraction = a & ((uint64_t{1} << kBits) - 1);
-    char int_digits[24];
-    const size_t int_count = digits<10>(int_digits, whole);
-    size_t significant = whole != 0 ? int_count : 0;
     size_t n = 0;
     if (m < 0) text[n++] = '-';
-    std::memcpy(text + n, int_digits + sizeof int_digits - int_count, int_count);
+    size_t int_count = 1;
+    for (uint64_t t = whole; t >= 10; t /= 10) ++int_count;
+    size_t significant = whole != 0 ? int_count : 0;
+    for (size_t i = int_count; i-- > 0; whole /= 10) text[n + i] = static_cast<char>('0' + whole % 10);
     n += int_count;
     if (fraction != 0) {
         text[n++] = '.';
@@ -143,6 +143,10 @@ public:
     // Integers are written by hand: the integer std::to_chars keeps digit
     // tables in function-local statics that a shared object would export.
     void unsigned_number(uint64_t v) {
+        if (v < 10 && need_ + 1 < size_) {  // flags and small codes: most numbers
+            buf_[need_++] = static_cast<char>('0' + v);
+            return;
+        }
         char text[24];
         const size_t n = digits<10>(text, v);
         put(text + sizeof text - n, n);
@@ -156,10 +160,16 @@ public:
             put("null", 4);
             return;
         }
+        // Written in place when the buffer has room for any real (at most
+        // 48 characters: 24 digits after the point at most, or to_chars' 24).
         char text[48];
-        size_t n = dyadic(text, v);
-        if (n == 0) n = static_cast<size_t>(std::to_chars(text, text + sizeof text, v).ptr - text);
-        put(text, n);
+        char *at = need_ + sizeof text < size_ ? buf_ + need_ : text;
+        size_t n = dyadic(at, v);
+        if (n == 0) n = static_cast<size_t>(std::to_chars(at, at + sizeof text, v).ptr - at);
+        if (at == text)
+            put(text, n);
+        else
+            need_ += n;
     }
 
     // A number shown in a fixed radix as a string: "7700", "3C654A".
@@ -189,7 +199,7 @@ struct JsonState {
     uint32_t depth = 0;  // 0 is the item object itself
 };
 
-void separator(JsonState &s, const char *name) {
+inline __attribute__((always_inline)) void separator(JsonState &s, const char *name) {
     if (!s.first[s.depth]) s.out.put(',');
     s.first[s.depth] = false;
     if (!s.array[s.depth] && name) s.out.key(name);
