@@ -343,8 +343,8 @@ bool json_row(JsonState &s, const FieldRow &row, const void *base) {
     case kKindCustom: {
         if (s.depth >= kMaxDepth || !row.custom) return true;
         Walker w(visit, &s, s.depth);
-        w.set_direct([](void *context, const FieldDesc &d, const void *at) {
-            return json_walk(*static_cast<JsonState *>(context), d, at);
+        w.set_direct([](void *context, const FieldDesc &d, const void *value) {
+            return json_walk(*static_cast<JsonState *>(context), d, value);
         });
         return row.custom(w, row, base);
     }
