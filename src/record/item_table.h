@@ -50,19 +50,11 @@ struct CompoundItem {
     const char *unknown_id;   // id text of a subfield the item does not have
 };
 
-// The item's subfield functions are handed out without the summary or
-// detail slot when no row has one (see compound_funcs), so capabilities tell
-// callers whether subfields have summaries and views. That is decided at run
-// time: comparing function addresses is not a constant expression in
-// sanitizer builds.
 template <size_t N>
 constexpr CompoundItem make_compound(uint32_t subfield_count, const SubfieldRow (&rows)[N],
                                      AstSubfieldFuncs funcs, const char *unknown_id = "---") {
     return CompoundItem{subfield_count, rows, N, funcs, unknown_id};
 }
-
-// The subfield functions of a compound item as callers see them.
-AstSubfieldFuncs compound_funcs(const CompoundItem &c);
 
 // Row-driven behaviour behind every compound item's exported subfield
 // functions (see KOVREL_COMPOUND_ITEM). A subfield id of another item or

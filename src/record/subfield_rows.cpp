@@ -14,18 +14,6 @@ const SubfieldRow *row_of(const CompoundItem &c, AstItemId item, uint32_t subfie
 
 }  // namespace
 
-AstSubfieldFuncs compound_funcs(const CompoundItem &c) {
-    AstSubfieldFuncs funcs = c.funcs;
-    bool summary = false, detail = false;
-    for (size_t i = 0; i < c.row_count && !(summary && detail); ++i) {
-        summary = summary || c.rows[i].get_summary != nullptr;
-        detail = detail || c.rows[i].get_detail_html != nullptr;
-    }
-    if (!summary) funcs.get_summary = nullptr;
-    if (!detail) funcs.get_detail_html = nullptr;
-    return funcs;
-}
-
 uint64_t subfield_row_size(const CompoundItem &c, AstItemId item, const uint8_t *octets, size_t available,
                            uint32_t subfield_id) {
     const SubfieldRow *r = row_of(c, item, subfield_id);

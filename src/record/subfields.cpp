@@ -105,7 +105,10 @@ KOVREL_API void ast_subfield_get_func(AstSubfieldFuncs *out, uint32_t subfield_i
     if (!out) return;
     *out = AstSubfieldFuncs{};
     const kovrel::CompoundItem *c = compound_of(subfield_id / 1000);
-    if (c) *out = kovrel::compound_funcs(*c);
+    // The item's exported subfield functions stand in every slot, so the
+    // subfields of a compound item have a summary and a detail view (rows
+    // without their own give "NOT_IMPLEMENTED" and an empty view).
+    if (c) *out = c->funcs;
 }
 
 KOVREL_API uint64_t ast_subfield_get_size(const uint8_t *octets, size_t available, uint32_t subfield_id) {

@@ -59,6 +59,11 @@ TEST(Subfield, NamesAndIdentifiers) {
     EXPECT_STREQ(b, "NOT_IMPLEMENTED");
     ast_subfield_get_summary(b, sizeof b, nullptr, 48010001);
     EXPECT_STREQ(b, "NOT_IMPLEMENTED");
+    // A compound item's exported subfield functions fill both slots, whether
+    // or not its rows have summaries and views of their own.
+    EXPECT_EQ(ast_subfield_get_capabilities(48130001), 0x6u);
+    EXPECT_EQ(ast_subfield_get_capabilities(48120002), 0x6u);
+    EXPECT_EQ(ast_subfield_get_capabilities(48010001), 0u);
 }
 
 TEST(Subfield, VariableAndRepeatedRules) {
