@@ -41,6 +41,16 @@ typedef struct AstDataBlockInput {
 } AstDataBlockInput;
 
 /**
+ * What a decode leaves in the caller's block. A block structure is large
+ * (64 records of 48 items), so decoding does not clear it: it writes the
+ * header fields, record_count and the records it reads, and each record
+ * its own fields and its items up to item_count. Read records[0 ..
+ * record_count - 1] and, in each, items[0 .. item_count - 1]: slots past
+ * the counts keep whatever the structure held before (an earlier block's
+ * records), with one exception kept for inspection: when a record fails,
+ * records[record_count] is that record as far as it could be read. Every
+ * block and record operation of the library goes by the counts.
+ *
  * Decodes a block with one profile. Invalid when octets is NULL, fewer than
  * 3 or fewer than LEN octets are available, a record fails, more than 64
  * records are found ("Number of datarecords %zu exceeds the limit %u." at

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "kovrel/datablock.h"
+#include "kovrel/datarecord.h"
+#include "kovrel/items.h"
 #include "support/log_capture.h"
 
 using kovrel_test::LogCapture;
@@ -227,4 +229,60 @@ TEST(DataBlock, ThreadsDecodeIndependently) {
     for (int k = 0; k < 4; ++k) threads.emplace_back(worker, k, &failures[k]);
     for (auto &t : threads) t.join();
     for (int k = 0; k < 4; ++k) EXPECT_EQ(failures[k], 0) << "thread " << k;
+}
+
+TEST(DataBlock, ReusedBlockIsReadByItsCounts) {
+    // A structure that held 64 records of five items each (I048/240 "STALE1")
+    // is reused for a block of one record with I048/010 alone: every block
+    // and record operation reads the new counts, never what the slots kept.
+    const uint8_t stale_record[] = {0xF1, 0x40, 0x19, 0x0D, 0x00, 0x00, 0x80, 0xA0, 0x00, 0x10,
+                                    0x00, 0x20, 0x4D, 0x40, 0x4C, 0x17, 0x18, 0x20};  // 240: "STALE1  "
+    std::vector<uint8_t> full = {48, 0, 0};
+    for (int i = 0; i < 64; ++i) full.insert(full.end(), stale_record, stale_record + sizeof stale_record);
+    full[1] = static_cast<uint8_t>(full.size() >> 8);
+    full[2] = static_cast<uint8_t>(full.size());
+    auto block = std::make_unique<AstDataBlock>();
+    ast_datablock_decode_into(block.get(), full.data(), full.size(), &AST_UAP_STANDARD);
+    ASSERT_EQ(block->valid, 1);
+    ASSERT_EQ(block->record_count, 64u);
+    AstRecordCallsign callsign;
+    ast_datarecord_get_callsign(&callsign, &block->records[0]);
+    ASSERT_EQ(callsign.valid, 1);
+    ASSERT_STREQ(callsign.callsign, "STALE1");
+
+    const std::vector<uint8_t> one = sacsic_block(1);
+    ast_datablock_decode_into(block.get(), one.data(), one.size(), &AST_UAP_STANDARD);
+    ASSERT_EQ(block->valid, 1);
+    ASSERT_EQ(block->record_count, 1u);
+    const AstDataRecord &r = block->records[0];
+    ASSERT_EQ(r.item_count, 1u);
+    ast_datarecord_get_callsign(&callsign, &r);
+    EXPECT_EQ(callsign.valid, 0);
+    AstDataSourceIdentifier source;
+    ast_datarecord_get_sacsic(&source, &r);
+    EXPECT_EQ(source.sac, 0u);
+    EXPECT_EQ(source.sic, 7u);
+    AstTimeOfDay tod;
+    ast_datarecord_get_timeofday(&tod, &r);
+    EXPECT_EQ(tod.valid, 0);
+    AstRecordPolar polar;
+    ast_datarecord_get_polarcoord(&polar, &r);
+    EXPECT_EQ(polar.valid, 0);
+
+    static char html[1 << 16];
+    ast_datarecord_get_detail_html(html, sizeof html, &r);
+    EXPECT_EQ(std::strstr(html, "Aircraft Identification"), nullptr);
+    EXPECT_NE(std::strstr(html, "Data Source Identifier"), nullptr);
+    ast_datarecord_get_hex_html(html, sizeof html, &r);
+    EXPECT_EQ(std::strstr(html, "4D"), nullptr);
+
+    uint8_t copy[64];
+    AstDataRecord copied;
+    ast_datarecord_copy(&copied, copy, sizeof copy, &r);
+    EXPECT_EQ(copied.length, 3u);
+    auto rewritten = std::make_unique<AstDataBlock>();
+    std::vector<uint8_t> buffer(full.size());
+    ast_datablock_modify(rewritten.get(), buffer.data(), buffer.size(), block.get(), nullptr);
+    ASSERT_EQ(rewritten->valid, 1);
+    EXPECT_EQ(std::vector<uint8_t>(buffer.begin(), buffer.begin() + static_cast<ptrdiff_t>(rewritten->length)), one);
 }
