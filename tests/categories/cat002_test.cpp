@@ -141,7 +141,7 @@ TEST(Cat002, CommonItemsOfASectorCrossing) {
                       {2020, "SECTOR:045DEG", 0xf, sizeof(AstSectorNumber)},
                       {2030, "TOD:12:34:56.789", 0xf, sizeof(AstTimeOfDay)},
                       {2041, "ROT:5.00", 0xf, sizeof(AstAntennaRotationPeriod)},
-                      {2050, "BIN:01000001 10000000", 0x2, 0},
+                      {2050, "BIN:01000001 10000000", 0x3, sizeof(AstItem002_050)},
                       {2999, "SPECIAL_PURPOSE", 0x3, sizeof(AstSpecialPurposeField)},
                       {2997, "RANDOM_FIELD_SEQUENCING", 0x3, sizeof(AstRandomFieldSequencing)}});
 

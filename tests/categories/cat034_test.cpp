@@ -159,9 +159,12 @@ TEST(Cat034, SubfieldIdsAndNames) {
     EXPECT_STREQ(ast_subfield_get_name(34060007), "Spare");
     EXPECT_STREQ(ast_subfield_034_060_get_name(34050004), "UNKNOWN_SUBFIELD_NAME");
 
-    // No subfield summaries yet: the generic text stands in.
-    char text[32];
+    // A decoded subfield without a span has no text; an undecoded one keeps
+    // the generic text.
+    char text[32] = "x";
     ast_subfield_get_summary(text, sizeof text, nullptr, 34050001);
+    EXPECT_STREQ(text, "");
+    ast_subfield_get_summary(text, sizeof text, nullptr, 34050004);
     EXPECT_STREQ(text, "NOT_IMPLEMENTED");
 }
 

@@ -1,6 +1,7 @@
 // CAT002 dispatch rows: size rule and name of every item of the standard
 // UAP, of the ASR-10SS station status items and of the MANAGAIR custom
 // field, and the common items that serve some of them.
+#include "categories/cat002/item_fields.h"
 #include "kovrel/cat002.h"
 #include "items/common_views.h"
 #include "items/item_fields.h"
@@ -37,12 +38,17 @@ constexpr ItemRow kRows[] = {
      ast_dataitem_002_041_encode_ex, ast_dataitem_002_041_decode_ex, &fields::kAntennaRotationPeriod},
     // The station status bits are shown as they are.
     {50, "Station Configuration Status", ast_dataitem_get_size_var_8_byte,
-     ast_dataitem_binary_data_get_summary, kNoDetail},
+     ast_dataitem_binary_data_get_summary, kNoDetail,
+     nullptr, ast_dataitem_002_050_decode_ex, &fields::k002_050},
 
     // ASR-10SS and ASR-10SS Mk2 put a longer station status of their own at
     // FRN 6, the place of I002/050 (both print as I002/050).
-    {901, "Station Configuration Status", ast_dataitem_get_size_var_16_byte},
-    {902, "Station Configuration Status", ast_dataitem_get_size_var_16_byte},
+    {901, "Station Configuration Status", ast_dataitem_get_size_var_16_byte,
+     ast_dataitem_002_901_get_summary, ast_dataitem_002_901_get_detail_html,
+     nullptr, ast_dataitem_002_901_decode_ex, &fields::k002_901},
+    {902, "Station Configuration Status", ast_dataitem_get_size_var_16_byte,
+     ast_dataitem_002_902_get_summary, ast_dataitem_002_902_get_detail_html,
+     nullptr, ast_dataitem_002_902_decode_ex, &fields::k002_901},
 
     // MANAGAIR sends a two-octet field of its own at FRN 23; it is
     // delimited and named, its content is not interpreted.

@@ -1,6 +1,8 @@
 // CAT034 dispatch rows: size rule and name of every item, the common items
 // that serve some of them, and the subfields of the compound items I034/050
 // and I034/060.
+#include "categories/cat034/item_fields.h"
+#include "categories/cat034/subfields.h"
 #include "kovrel/cat034.h"
 #include "items/common_views.h"
 #include "items/item_fields.h"
@@ -16,22 +18,29 @@ using namespace views;
 // either, but keeps the name "Spare" (and only the name) so that a detail
 // view of a primary subfield with bit 7 set reads sensibly.
 constexpr SubfieldRow k050Subfields[] = {
-    {"COM", "Common Elements of System", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"COM", "Common Elements of System", SubfieldRule::Fixed, 1, nullptr, cat034::status_com_summary,
+     cat034::status_com_detail},
     {"---", "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
     {"---", "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
+    // The PSR and Mode S status octets are kept as they are, not decoded.
     {"PSR", "PSR Sensor Specific Status Information", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
-    {"SSR", "SSR Sensor Specific Status Information", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"SSR", "SSR Sensor Specific Status Information", SubfieldRule::Fixed, 1, nullptr, cat034::status_ssr_summary,
+     cat034::status_ssr_detail},
     {"MDS", "MODE-S Sensor Specific Status Information", SubfieldRule::Fixed, 2, nullptr, nullptr, nullptr},
     {nullptr, "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
 };
 
 constexpr SubfieldRow k060Subfields[] = {
-    {"COM", "Common Elements of System", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"COM", "Common Elements of System", SubfieldRule::Fixed, 1, nullptr, cat034::mode_com_summary,
+     cat034::mode_com_detail},
     {"---", "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
     {"---", "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
-    {"PSR", "PSR Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
-    {"SSR", "SSR Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
-    {"MDS", "Mode S Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, nullptr, nullptr},
+    {"PSR", "PSR Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, cat034::mode_psr_summary,
+     cat034::mode_psr_detail},
+    {"SSR", "SSR Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, cat034::mode_ssr_summary,
+     cat034::mode_ssr_detail},
+    {"MDS", "Mode S Sensor Specific Processing Mode", SubfieldRule::Fixed, 1, nullptr, cat034::mode_mds_summary,
+     cat034::mode_mds_detail},
     {nullptr, "Spare", SubfieldRule::None, 0, nullptr, nullptr, nullptr},
 };
 
@@ -78,14 +87,19 @@ constexpr ItemRow kRows[] = {
      ast_dataitem_034_041_encode_ex, ast_dataitem_034_041_decode_ex, &fields::kAntennaRotationPeriod},
     {50, "Station Configuration & Status", ast_dataitem_034_050_get_size,
      kCompoundSummary, kCompoundDetail,
-     nullptr, nullptr, nullptr, &kCompound034_050},
+     nullptr, ast_dataitem_034_050_decode_ex, &fields::k034_050, &kCompound034_050},
     {60, "System Processing Mode", ast_dataitem_034_060_get_size,
      kCompoundSummary, kCompoundDetail,
-     nullptr, nullptr, nullptr, &kCompound034_060},
-    {70, "Message Count Values", ast_dataitem_get_size_rep_2_byte},
+     nullptr, ast_dataitem_034_060_decode_ex, &fields::k034_060, &kCompound034_060},
+    {70, "Message Count Values", ast_dataitem_get_size_rep_2_byte,
+     ast_dataitem_034_070_get_summary, ast_dataitem_034_070_get_detail_html,
+     nullptr, ast_dataitem_034_070_decode_ex, &fields::k034_070},
     {110, "Data Filter", ast_dataitem_get_size_fixed_1_byte},
     // "Of" with a capital O is the name existing consumers display and match on.
-    {120, "3D-Position Of Data Source", ast_dataitem_get_size_fixed_8_byte},
+    // No summary: the position is read from the detail view and the fields.
+    {120, "3D-Position Of Data Source", ast_dataitem_get_size_fixed_8_byte,
+     nullptr, ast_dataitem_034_120_get_detail_html,
+     nullptr, ast_dataitem_034_120_decode_ex, &fields::k034_120},
     {90, "Collimation Error", ast_dataitem_get_size_fixed_2_byte},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
      ast_dataitem_reserved_expansion_field_get_summary, kNoDetail,
