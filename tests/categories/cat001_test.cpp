@@ -214,17 +214,17 @@ TEST(Cat001, CommonItemsOfATrack) {
     AstDataRecord r;
     ast_datarecord_decode(&r, track.data(), track.size(), 1, &AST_UAP_STANDARD);
     ASSERT_EQ(r.valid, 1);
-    // No CAT001 item has a structured encoder.
-    expect_served(r, {{1010, "SAC:008 SIC:017", 0x7, sizeof(AstDataSourceIdentifier)},
-                      {1161, "TRACK_NUM:61731", 0x3, sizeof(AstTrackNumber)},  // 16 bits, no detail view
-                      {1200, "SPD:225.00 HDG:45.00", 0x7, sizeof(AstVelocityPolar)},
-                      {1070, "MODE_3/A:7777 GARBLED", 0x7, sizeof(AstMode3aCode)},
-                      {1090, "MODE_C:0080", 0x7, sizeof(AstModeCCode)},
-                      {1130, "BIN:01000001 00100000", 0x2, 0},
-                      {1050, "MODE_2:0443 NOT_VALIDATED SMOOTHED", 0x7, sizeof(AstMode3aCode)},
-                      {1080, "QTY:ABCd", 0x7, sizeof(AstMode3aConfidence)},
+    // The Mode-C confidence has no encoder; the others encode.
+    expect_served(r, {{1010, "SAC:008 SIC:017", 0xf, sizeof(AstDataSourceIdentifier)},
+                      {1161, "TRACK_NUM:61731", 0xb, sizeof(AstTrackNumber)},  // 16 bits, no detail view
+                      {1200, "SPD:225.00 HDG:45.00", 0xf, sizeof(AstVelocityPolar)},
+                      {1070, "MODE_3/A:7777 GARBLED", 0xf, sizeof(AstMode3aCode)},
+                      {1090, "MODE_C:0080", 0xf, sizeof(AstModeCCode)},
+                      {1130, "BIN:01000001 00100000", 0xf, sizeof(AstItem001_130)},
+                      {1050, "MODE_2:0443 NOT_VALIDATED SMOOTHED", 0xf, sizeof(AstMode3aCode)},
+                      {1080, "QTY:ABCd", 0xf, sizeof(AstMode3aConfidence)},
                       {1100, "CODE:5000 QTY:ABCD NOT_VALIDATED", 0x7, sizeof(AstModeCConfidence)},
-                      {1060, "QTY:aBCD", 0x7, sizeof(AstMode3aConfidence)},
+                      {1060, "QTY:aBCD", 0xf, sizeof(AstMode3aConfidence)},
                       {1999, "SPECIAL_PURPOSE", 0x3, sizeof(AstSpecialPurposeField)},
                       {1997, "RANDOM_FIELD_SEQUENCING", 0x3, sizeof(AstRandomFieldSequencing)}});
 

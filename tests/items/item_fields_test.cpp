@@ -321,7 +321,6 @@ TEST(ItemFields, SpansThatDoNotDecodeGiveNothing) {
 
     // Compound items and items of no common structure describe nothing here.
     EXPECT_EQ(ast_dataitem_has_fields(62380), 0);
-    EXPECT_EQ(ast_dataitem_has_fields(1020), 0);
     const AstDataItem compound = span(62380, two);
     EXPECT_EQ(ast_dataitem_walk_fields(&compound, count, &calls), AST_FIELDS_NONE);
 }
@@ -453,7 +452,7 @@ TEST(ItemFields, EncodersWriteTheWireFromNamedValues) {
             }
         }
     }
-    EXPECT_EQ(tripped, 24u);
+    EXPECT_EQ(tripped, 26u);
 }
 
 }  // namespace

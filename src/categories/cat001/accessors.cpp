@@ -1,0 +1,114 @@
+// CAT001 record accessors: the facts of a plot or track, each read from the
+// first item of the record that carries it. A result is all zeros (SAC/SIC:
+// all ones) when the record is invalid or lacks the item or the item does
+// not decode.
+#include <cstring>
+
+#include "kovrel/cat001.h"
+#include "kovrel/datarecord.h"
+#include "record/record_funcs.h"
+
+namespace {
+
+// Zeroes padding too: callers may compare results octet by octet.
+template <typename T>
+void clear(T *out) {
+    std::memset(static_cast<void *>(out), 0, sizeof *out);
+}
+
+const AstDataItem *first_item(const AstDataRecord *record, AstItemId id) {
+    if (!record || record->valid != 1) return nullptr;
+    const uint64_t count =
+        record->item_count < AST_DATARECORD_MAX_ITEMS ? record->item_count : AST_DATARECORD_MAX_ITEMS;
+    for (uint64_t i = 0; i < count; ++i)
+        if (record->items[i].id == id) return &record->items[i];
+    return nullptr;
+}
+
+// Decodes the first item id of the record through its structured decode;
+// false, *out zero, when there is none or it does not decode.
+template <typename T>
+bool decode_first(T *out, const AstDataRecord *record, AstItemId id) {
+    clear(out);
+    const AstDataItem *item = first_item(record, id);
+    if (!item) return false;
+    AstDataItemValue v;
+    ast_dataitem_decode(&v, out, sizeof *out, item);
+    if (v.valid == 1 && out->valid == 1) return true;
+    clear(out);
+    return false;
+}
+
+}  // namespace
+
+extern "C" {
+
+KOVREL_API void ast_datarecord_001_get_sacsic(AstDataSourceIdentifier *out, const AstDataRecord *record) {
+    if (!out) return;
+    if (decode_first(out, record, 1010)) return;
+    out->sac = 0xFFFFFFFFu;
+    out->sic = 0xFFFFFFFFu;
+}
+
+KOVREL_API void ast_datarecord_001_get_msgtype(AstRecordMsgType *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    if (!record || record->valid != 1) return;
+    // The track number decides, not TYP of I001/020: 4 "Track", else 3 "Plot".
+    *out = AstRecordMsgType{1, first_item(record, 1161) ? 4u : 3u};
+}
+
+KOVREL_API void ast_datarecord_001_get_tracknum(AstTrackNumber *out, const AstDataRecord *record) {
+    if (out) decode_first(out, record, 1161);
+}
+
+KOVREL_API void ast_datarecord_001_get_squawk(AstMode3aCode *out, const AstDataRecord *record) {
+    if (out) decode_first(out, record, 1070);
+}
+
+KOVREL_API void ast_datarecord_001_get_flightlevel(AstRecordValue *out, const AstDataRecord *record) {
+    if (!out) return;
+    AstModeCCode mode_c;
+    const bool ok = decode_first(&mode_c, record, 1090);
+    clear(out);
+    if (!ok) return;
+    out->valid = 1;
+    out->value = mode_c.flight_level * 25.0;  // 1/4 FL = 25 ft
+}
+
+KOVREL_API void ast_datarecord_001_get_polarcoord(AstRecordPolar *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    AstItem001_040 position;
+    if (!decode_first(&position, record, 1040)) return;
+    out->valid = 1;
+    out->rho = position.rho.value;
+    out->theta = position.theta.value;
+}
+
+}  // extern "C"
+
+namespace kovrel {
+
+// The accessors as the generic record functions reach them; record_funcs.cpp
+// hands this table out for category 1.
+extern const AstDataRecordFuncs kRecordFuncs001;
+constinit const AstDataRecordFuncs kRecordFuncs001 = {
+    ast_datarecord_001_get_sacsic,
+    nullptr,  // no time of day of its own: I001/141 is truncated
+    ast_datarecord_001_get_msgtype,
+    ast_datarecord_001_get_tracknum,
+    ast_datarecord_001_get_squawk,
+    nullptr,  // callsign
+    nullptr,  // aircraft address
+    nullptr,  // WGS-84 position
+    ast_datarecord_001_get_flightlevel,
+    nullptr,  // selected altitude
+    ast_datarecord_001_get_polarcoord,
+    nullptr,  // heading
+    nullptr,  // speed
+    nullptr,  // Cartesian velocity
+    nullptr,  // vertical rate
+};
+
+}  // namespace kovrel
