@@ -6,6 +6,9 @@ namespace kovrel {
 
 const AstDataRecordFuncs *find_record_funcs(uint32_t category) {
     switch (category) {
+        case 1: return &kRecordFuncs001;
+        case 2: return &kRecordFuncs002;
+        case 34: return &kRecordFuncs034;
         case 48: return &kRecordFuncs048;
         default: return nullptr;
     }

@@ -9,6 +9,9 @@ namespace kovrel {
 const AstDataRecordFuncs *find_record_funcs(uint32_t category);
 
 // Accessor tables, one per category folder.
+extern const AstDataRecordFuncs kRecordFuncs001;
+extern const AstDataRecordFuncs kRecordFuncs002;
+extern const AstDataRecordFuncs kRecordFuncs034;
 extern const AstDataRecordFuncs kRecordFuncs048;
 
 }  // namespace kovrel
