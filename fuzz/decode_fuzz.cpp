@@ -276,6 +276,60 @@ void exercise_record_048(const AstDataRecord &record) {
     }
 }
 
+// The radar categories' records: disassembled and assembled again into
+// buffers of the record's length and shorter, never written past them; what
+// assembles decodes to the length reported.
+template <typename Record, typename Assemble>
+void exercise_record_radar(const AstDataRecord &record, void (*disassemble)(Record *, const AstDataRecord *),
+                           Assemble assemble) {
+    static Record disassembled;
+    static AstDataRecord assembled;
+    static AstDataRecord decoded;
+    disassemble(&disassembled, &record);
+    if (record.valid != 1) {
+        if (disassembled.valid != 0) __builtin_trap();
+        return;
+    }
+    const size_t length = static_cast<size_t>(record.length);
+    for (size_t shorter = 0; shorter <= 2 && shorter <= length; ++shorter) {
+        const size_t size = length - shorter;
+        std::memset(g_buffer + size, 0xA5, 64);
+        assemble(&assembled, g_buffer, size, &disassembled);
+        for (size_t i = size; i < size + 64; ++i)
+            if (g_buffer[i] != 0xA5) __builtin_trap();
+        if (assembled.valid != 1) continue;
+        if (assembled.length > size) __builtin_trap();
+        ast_datarecord_decode(&decoded, g_buffer, static_cast<size_t>(assembled.length), record.category,
+                              &assembled.uap);
+        if (decoded.valid != 1 || decoded.length != assembled.length) __builtin_trap();
+    }
+}
+
+void exercise_record_by_category(const AstDataRecord &record) {
+    switch (record.category) {
+    case 1:
+        exercise_record_radar(record, ast_datarecord_001_disassemble,
+                              [](AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord001 *in) {
+                                  ast_datarecord_001_assemble(out, buffer, size, in);
+                              });
+        break;
+    case 2:
+        exercise_record_radar(record, ast_datarecord_002_disassemble,
+                              [&record](AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord002 *in) {
+                                  ast_datarecord_002_assemble(out, buffer, size, in, &record.uap);
+                              });
+        break;
+    case 34:
+        exercise_record_radar(record, ast_datarecord_034_disassemble,
+                              [&record](AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord034 *in) {
+                                  ast_datarecord_034_assemble(out, buffer, size, in, &record.uap);
+                              });
+        break;
+    case 48: exercise_record_048(record); break;
+    default: break;
+    }
+}
+
 // Members of arbitrary value (octets of the input), the encodable ones
 // switched on by the input's first bits, assembled into a small buffer.
 void exercise_assemble_048(const uint8_t *data, size_t size) {
@@ -328,8 +382,8 @@ void exercise_block(const AstDataBlock &block) {
             ast_datarecord_get_heading(&value, &record);
             AstRecordPolar polar;
             ast_datarecord_get_polarcoord(&polar, &record);
-            exercise_record_048(record);
         }
+        exercise_record_by_category(record);
     }
     ast_datablock_modify(&g_rewritten, g_buffer, sizeof g_buffer, &block, nullptr);
     if (block.valid == 1 && g_rewritten.valid == 1 && g_rewritten.length != block.length) __builtin_trap();
@@ -364,7 +418,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
         AstDataRecord record;
         ast_datarecord_decode(&record, data + 1, size - 1, data[0], &AST_UAP_STANDARD);
         for (uint64_t i = 0; i < record.item_count; ++i) exercise_item(record.items[i]);
-        if (record.category == 48) exercise_record_048(record);
+        exercise_record_by_category(record);
     }
     exercise_assemble_048(data, size);
     return 0;
