@@ -2,44 +2,14 @@
 // first item of the record that carries it. A result is all zeros (SAC/SIC:
 // all ones) when the record is invalid or lacks the item or the item does
 // not decode.
-#include <cstring>
-
 #include "kovrel/cat001.h"
 #include "kovrel/datarecord.h"
+#include "record/record_access.h"
 #include "record/record_funcs.h"
 
-namespace {
-
-// Zeroes padding too: callers may compare results octet by octet.
-template <typename T>
-void clear(T *out) {
-    std::memset(static_cast<void *>(out), 0, sizeof *out);
-}
-
-const AstDataItem *first_item(const AstDataRecord *record, AstItemId id) {
-    if (!record || record->valid != 1) return nullptr;
-    const uint64_t count =
-        record->item_count < AST_DATARECORD_MAX_ITEMS ? record->item_count : AST_DATARECORD_MAX_ITEMS;
-    for (uint64_t i = 0; i < count; ++i)
-        if (record->items[i].id == id) return &record->items[i];
-    return nullptr;
-}
-
-// Decodes the first item id of the record through its structured decode;
-// false, *out zero, when there is none or it does not decode.
-template <typename T>
-bool decode_first(T *out, const AstDataRecord *record, AstItemId id) {
-    clear(out);
-    const AstDataItem *item = first_item(record, id);
-    if (!item) return false;
-    AstDataItemValue v;
-    ast_dataitem_decode(&v, out, sizeof *out, item);
-    if (v.valid == 1 && out->valid == 1) return true;
-    clear(out);
-    return false;
-}
-
-}  // namespace
+using kovrel::access::decode_first;
+using kovrel::access::clear;
+using kovrel::access::first_item;
 
 extern "C" {
 

@@ -2,43 +2,12 @@
 // and whether it is a North marker or a sector crossing, each read from the
 // first item of the record that carries it. A result is all zeros when the
 // record is invalid or lacks the item or the item does not decode.
-#include <cstring>
-#include <type_traits>
-
 #include "kovrel/cat034.h"
 #include "kovrel/datarecord.h"
+#include "record/record_access.h"
 
-namespace {
-
-template <typename T>
-void clear(T *out) {
-    std::memset(static_cast<void *>(out), 0, sizeof *out);
-}
-
-const AstDataItem *first_item(const AstDataRecord *record, AstItemId id) {
-    if (!record || record->valid != 1) return nullptr;
-    const uint64_t count =
-        record->item_count < AST_DATARECORD_MAX_ITEMS ? record->item_count : AST_DATARECORD_MAX_ITEMS;
-    for (uint64_t i = 0; i < count; ++i)
-        if (record->items[i].id == id) return &record->items[i];
-    return nullptr;
-}
-
-// Decodes the first item id of the record into *out with a common item
-// decoder (by pointer or by value); *out zero when there is none.
-template <typename T, typename Decode>
-void decode_first(T *out, const AstDataRecord *record, AstItemId id, Decode decode) {
-    clear(out);
-    const AstDataItem *item = first_item(record, id);
-    if (!item) return;
-    if constexpr (std::is_invocable_r_v<T, Decode, const AstDataItem *>)
-        *out = decode(item);
-    else
-        decode(out, item);
-    if (out->valid != 1) clear(out);
-}
-
-}  // namespace
+using kovrel::access::decode_first;
+using kovrel::access::clear;
 
 extern "C" {
 
