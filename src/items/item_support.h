@@ -10,6 +10,7 @@
 #include "core/text.h"
 #include "kovrel/dataitem.h"
 #include "kovrel/html.h"
+#include "kovrel/subfield.h"
 
 namespace kovrel::items {
 
@@ -21,6 +22,14 @@ inline bool span_ok(const AstDataItem *item, uint64_t length) {
 // True when the span may be read and holds at least `length` octets.
 inline bool span_at_least(const AstDataItem *item, uint64_t length) {
     return item && item->valid == 1 && item->data && item->length >= length;
+}
+
+// The octet of a one-octet subfield, when its bit is set and it was
+// delimited.
+inline bool subfield_octet(const AstSubfield *span, uint8_t *octet) {
+    if (!span || span->present != 1 || span->valid != 1 || !span->data || span->length != 1) return false;
+    *octet = span->data[0];
+    return true;
 }
 
 // The result of an encoder that wrote nothing: a zero-length invalid span.

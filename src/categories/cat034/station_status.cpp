@@ -18,12 +18,7 @@ namespace items = kovrel::items;
 constexpr AstItemId kId = 34050;
 enum : size_t { kCom = 0, kPsr = 3, kSsr = 4, kMds = 5 };  // span positions of the subfields
 
-// The octet of a one-octet subfield, when its bit is set and it was delimited.
-bool subfield_octet(const AstSubfield *span, uint8_t *octet) {
-    if (!span || span->present != 1 || span->valid != 1 || !span->data || span->length != 1) return false;
-    *octet = span->data[0];
-    return true;
-}
+using kovrel::items::subfield_octet;
 
 void decode_com(AstItem034_050 *out, uint8_t o) {
     out->com_present = 1;

@@ -8,6 +8,7 @@
 #include "categories/cat048/item_fields.h"
 #include "core/text.h"
 #include "items/item_ex.h"
+#include "items/item_support.h"
 #include "kovrel/cat048.h"
 
 namespace {
@@ -18,12 +19,7 @@ constexpr double kRangeLsb = 1.0 / 256.0;         // NM (RPD)
 constexpr double kAzimuthLsb = 360.0 / 16384.0;   // degrees (APD)
 enum : size_t { kSrl, kSrr, kSam, kPrl, kPam, kRpd, kApd };  // span positions of the subfields
 
-// The octet of a one-octet subfield, when its bit is set and it was delimited.
-bool subfield_octet(const AstSubfield *span, uint8_t *octet) {
-    if (!span || span->present != 1 || span->valid != 1 || !span->data || span->length != 1) return false;
-    *octet = span->data[0];
-    return true;
-}
+using kovrel::items::subfield_octet;
 
 // The octet of subfield `at` of a split item, when it is there.
 bool octet_at(const AstSubfieldList &list, size_t at, uint8_t *octet) {
