@@ -13,14 +13,19 @@
 
 #include <nlohmann/json.hpp>
 
+#include "fuzz_records.h"
 #include "kovrel/kovrel.h"
 
+namespace fuzzing {
+char g_text[1 << 16];
+uint8_t g_buffer[1 << 17];
+}  // namespace fuzzing
+
 namespace {
+using namespace fuzzing;
 
 AstDataBlock g_block;
 AstDataBlock g_rewritten;
-char g_text[1 << 16];
-uint8_t g_buffer[1 << 17];
 
 // Collects the leaves of a walk as (path, value) pairs; groups and arrays
 // must open and close in step.
@@ -326,7 +331,7 @@ void exercise_record_by_category(const AstDataRecord &record) {
                               });
         break;
     case 48: exercise_record_048(record); break;
-    default: break;
+    default: exercise_record_more(record); break;
     }
 }
 

@@ -1,0 +1,19 @@
+// What the per-category record exercises of the fuzz target share: the
+// scratch buffers, and one entry per category file (records_NNN.cpp).
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "kovrel/kovrel.h"
+
+namespace fuzzing {
+
+extern char g_text[1 << 16];
+extern uint8_t g_buffer[1 << 17];
+
+// Exercises the record operations of the record's category when a
+// records_NNN.cpp file handles it; does nothing for other categories.
+void exercise_record_more(const AstDataRecord &record);
+
+}  // namespace fuzzing
