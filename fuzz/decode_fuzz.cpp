@@ -314,8 +314,8 @@ void exercise_record_by_category(const AstDataRecord &record) {
     switch (record.category) {
     case 1:
         exercise_record_radar(record, ast_datarecord_001_disassemble,
-                              [](AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord001 *in) {
-                                  ast_datarecord_001_assemble(out, buffer, size, in);
+                              [&record](AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord001 *in) {
+                                  ast_datarecord_001_assemble(out, buffer, size, in, &record.uap);
                               });
         break;
     case 2:

@@ -325,6 +325,13 @@ KOVREL_API void ast_dataitem_001_210_get_detail_html(char *buffer, size_t size, 
  * 1904 (ASR-10SS Mk2 track quality and plot extent): octet 1 TQ, octet 2
  *   the peak amplitude in dB, octet 3 the azimuth extent in ACPs. Summary
  *   "TQ:%d", then " PEAK:%ddB" and " AZEXT:%d" when those octets are there.
+ *
+ * The station items have no item-level encoder; ast_datarecord_001_assemble
+ * writes them as members of a record: the named octets up to the last one
+ * the structure holds (a *_present flag, ext1_present, or extra octets,
+ * which need every named octet before them), then the extra octets; bits
+ * without a name are sent as zeros. A flag above 1 or a value above 127
+ * makes the record invalid.
  */
 typedef struct AstItem001_901 {
     uint32_t valid;
@@ -343,6 +350,7 @@ typedef struct AstItem001_903 {
     uint32_t valid;
     uint32_t mnt, pe, wet, rag, a3, aaz, aeo;
     uint32_t spl;
+    uint32_t ext1_present; /**< octet 2 was there (or is to be written) */
     uint32_t amp_present;
     uint32_t amp; /**< dB */
     uint32_t conf_present;
@@ -397,9 +405,9 @@ KOVREL_001_ENC_EX(170) KOVREL_001_ENC_EX(200) KOVREL_001_ENC_EX(210)
 /* ---- Record level ------------------------------------------------------ */
 
 /**
- * The disassembled CAT001 record, one member per item in item-number order;
- * a member whose item is absent stays zero. The station items, 1951, SPF
- * and RFS have no member.
+ * The disassembled CAT001 record, one member per item in item-number order
+ * (the ASR-10SS station items 1901 to 1904 last); a member whose item is
+ * absent stays zero. 1951, SPF and RFS have no member.
  */
 typedef struct AstRecord001 {
     uint32_t valid;
@@ -423,6 +431,10 @@ typedef struct AstRecord001 {
     AstItem001_170 i170;
     AstVelocityPolar i200;
     AstItem001_210 i210;
+    AstItem001_901 i901;
+    AstItem001_902 i902;
+    AstItem001_903 i903;
+    AstItem001_904 i904;
 } AstRecord001;
 
 /**
@@ -432,13 +444,19 @@ typedef struct AstRecord001 {
  */
 KOVREL_API void ast_datarecord_001_disassemble(AstRecord001 *out, const AstDataRecord *record);
 /**
- * Encodes the members of *in whose valid flag is 1 as one CAT001 record: with
- * the track UAP (AST_UAP_STANDARD) when i161 is valid, otherwise with the
- * plot UAP (AST_UAP_CAT001_PLOT). I001/100 has no encoder: a record holding
- * it cannot be assembled. A refused value makes the record invalid; nothing
- * is written past size.
+ * Encodes the members of *in whose valid flag is 1 as one CAT001 record into
+ * buffer (size octets), in the order of the profile's FRNs.
+ * The profile: uap when it is AST_UAP_ASR10SS or AST_UAP_ASR10SS_MK2 (or a
+ * copy of one); otherwise it follows from the record: AST_UAP_ASR10SS_MK2
+ * when i903 or i904 is valid, AST_UAP_ASR10SS when i901 or i902 is, the
+ * track UAP (AST_UAP_STANDARD) when i161 is, else the plot UAP
+ * (AST_UAP_CAT001_PLOT). uap may be NULL. *out is the written record, with
+ * the profile used in out->uap; it is invalid, and nothing is written past
+ * size, when a member is not in that profile, I001/100 is valid (it has no
+ * encoder), a value does not fit its field or the buffer is too small.
  */
-KOVREL_API void ast_datarecord_001_assemble(AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord001 *in);
+KOVREL_API void ast_datarecord_001_assemble(AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord001 *in,
+                                            const AstUap *uap);
 
 /*
  * Record accessors. Each reads the first item of the record that carries the

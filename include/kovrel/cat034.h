@@ -284,9 +284,15 @@ typedef struct AstRecord034 {
 KOVREL_API void ast_datarecord_034_disassemble(AstRecord034 *out, const AstDataRecord *record);
 /**
  * Encodes the members of *in whose valid flag is 1 into buffer as one
- * CAT034 record of the profile uap. Only 000, 010, 020, 030 and 041 have
- * encoders: a record with a valid 050, 060, 070 or 120 member, or with a
- * value an encoder refuses, is invalid; nothing is written past size.
+ * CAT034 record of the profile uap, in FRN order. 000, 010, 020, 030 and 041
+ * go through their item encoders; 050, 060, 070 and 120, which have no
+ * item-level encoder, are written by the record's own: the subfields of 050
+ * and 060 whose present flag is set (PSR and MDS of 050 are copied from the
+ * spans of its subfield list, so they are written only while the octets the
+ * record was disassembled from are alive), REP and the counters of 070, the
+ * raw height, latitude and longitude of 120. A value that does not fit its
+ * field, or a short buffer, makes the record invalid; nothing is written
+ * past size.
  */
 KOVREL_API void ast_datarecord_034_assemble(AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord034 *in,
                                             const AstUap *uap);

@@ -5,6 +5,7 @@
 #include "core/state.h"
 #include "kovrel/datarecord.h"
 #include "record/item_table.h"
+#include "record/record_encode.h"
 
 namespace {
 
@@ -36,6 +37,63 @@ const AstDataItemValue *find_value(const AstDataItemValue *items, uint64_t count
 }
 
 }  // namespace
+
+namespace kovrel {
+
+void encode_record(AstDataRecord *out, uint8_t *buffer, size_t size, const AstDataRecordInput *input,
+                   const AstDataItemEncodeExFn *encoders) {
+    if (!out) return;
+    begin_record(out, buffer, input ? input->category : 0, input ? &input->uap : nullptr);
+    if (!input) return;
+    out->item_count = input->item_count;
+    const uint32_t category = input->category;
+    const uint32_t max_frn = ast_uap_max_frn(&input->uap, category);
+    if (max_frn == 0 || !buffer) {
+        ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
+        return;
+    }
+
+    // FSPEC: clear every FRN bit the profile knows, set those of the items.
+    uint64_t fspec_length = 0;
+    for (uint32_t frn = 1; frn <= max_frn; ++frn) {
+        ast_fspec_set(buffer, size, frn, false);
+        const AstItemId id = ast_uap_get_dataitem(&input->uap, category, frn);
+        if (!find_value(input->items, input->item_count, id)) continue;
+        if (!ast_fspec_set(buffer, size, frn, true)) {
+            ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
+            return;
+        }
+        fspec_length = (frn - 1) / 7 + 1;
+    }
+    if (fspec_length == 0) {
+        ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
+        return;
+    }
+    for (uint64_t i = 0; i + 1 < fspec_length; ++i) buffer[i] = static_cast<uint8_t>(buffer[i] | 0x01u);
+    buffer[fspec_length - 1] = static_cast<uint8_t>(buffer[fspec_length - 1] & ~0x01u);
+
+    uint64_t pos = fspec_length;
+    for (uint32_t frn = 1; frn <= max_frn; ++frn) {
+        const AstItemId id = ast_uap_get_dataitem(&input->uap, category, frn);
+        const AstDataItemValue *value = find_value(input->items, input->item_count, id);
+        if (!value) continue;
+        AstDataItem item;
+        const AstDataItemEncodeExFn own = encoders ? encoders[value - input->items] : nullptr;
+        if (own)
+            own(&item, buffer + pos, static_cast<size_t>(size - pos), value);
+        else
+            ast_dataitem_encode(&item, buffer + pos, static_cast<size_t>(size - pos), value);
+        if (item.valid != 1 || item.length > size - pos) {
+            log_item(AST_LOG_DEBUG, "Failed to encode dataitem %s.", id);
+            return;
+        }
+        pos += item.length;
+    }
+    out->length = pos;
+    out->valid = 1;
+}
+
+}  // namespace kovrel
 
 extern "C" {
 
@@ -86,51 +144,7 @@ KOVREL_API void ast_datarecord_decode(AstDataRecord *out, const uint8_t *octets,
 
 KOVREL_API void ast_datarecord_encode(AstDataRecord *out, uint8_t *buffer, size_t size,
                                       const AstDataRecordInput *input) {
-    if (!out) return;
-    begin_record(out, buffer, input ? input->category : 0, input ? &input->uap : nullptr);
-    if (!input) return;
-    out->item_count = input->item_count;
-    const uint32_t category = input->category;
-    const uint32_t max_frn = ast_uap_max_frn(&input->uap, category);
-    if (max_frn == 0 || !buffer) {
-        ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
-        return;
-    }
-
-    // FSPEC: clear every FRN bit the profile knows, set those of the items.
-    uint64_t fspec_length = 0;
-    for (uint32_t frn = 1; frn <= max_frn; ++frn) {
-        ast_fspec_set(buffer, size, frn, false);
-        const AstItemId id = ast_uap_get_dataitem(&input->uap, category, frn);
-        if (!find_value(input->items, input->item_count, id)) continue;
-        if (!ast_fspec_set(buffer, size, frn, true)) {
-            ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
-            return;
-        }
-        fspec_length = (frn - 1) / 7 + 1;
-    }
-    if (fspec_length == 0) {
-        ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
-        return;
-    }
-    for (uint64_t i = 0; i + 1 < fspec_length; ++i) buffer[i] = static_cast<uint8_t>(buffer[i] | 0x01u);
-    buffer[fspec_length - 1] = static_cast<uint8_t>(buffer[fspec_length - 1] & ~0x01u);
-
-    uint64_t pos = fspec_length;
-    for (uint32_t frn = 1; frn <= max_frn; ++frn) {
-        const AstItemId id = ast_uap_get_dataitem(&input->uap, category, frn);
-        const AstDataItemValue *value = find_value(input->items, input->item_count, id);
-        if (!value) continue;
-        AstDataItem item;
-        ast_dataitem_encode(&item, buffer + pos, static_cast<size_t>(size - pos), value);
-        if (item.valid != 1 || item.length > size - pos) {
-            log_item(AST_LOG_DEBUG, "Failed to encode dataitem %s.", id);
-            return;
-        }
-        pos += item.length;
-    }
-    out->length = pos;
-    out->valid = 1;
+    kovrel::encode_record(out, buffer, size, input, nullptr);
 }
 
 KOVREL_API void ast_datarecord_copy(AstDataRecord *out, uint8_t *buffer, size_t size, const AstDataRecord *record) {

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "core/state.h"
+#include "record/record_encode.h"
 
 namespace kovrel {
 
@@ -67,6 +68,7 @@ void assemble_record(const RecordLayout &layout, AstDataRecord *out, uint8_t *bu
     input.category = layout.category;
     input.uap = uap ? *uap : AstUap{nullptr, nullptr};
     input.item_count = 0;
+    AstDataItemEncodeExFn encoders[AST_DATARECORD_MAX_ITEMS];
     const uint8_t *base = static_cast<const uint8_t *>(in);
     for (size_t i = 0; base && i < layout.member_count; ++i) {
         const RecordMember &m = layout.members[i];
@@ -78,9 +80,10 @@ void assemble_record(const RecordLayout &layout, AstDataRecord *out, uint8_t *bu
             return;
         }
         // The encoders only read through the pointer.
+        encoders[input.item_count] = m.encode;
         input.items[input.item_count++] = AstDataItemValue{1, m.id, const_cast<uint8_t *>(base + m.offset)};
     }
-    ast_datarecord_encode(out, buffer, size, &input);
+    encode_record(out, buffer, size, &input, encoders);
 }
 
 }  // namespace kovrel

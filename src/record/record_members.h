@@ -26,6 +26,9 @@ struct RecordMember {
     uint32_t offset;     // of the member inside the record structure
     uint32_t size;       // of the member: the storage its decoder may fill
     uint8_t flag_width;  // of the member's leading valid flag: 1 or 4 octets
+    // Writes the member when the item has no public structured encoder
+    // (null: the item dispatch's encoder).
+    AstDataItemEncodeExFn encode = nullptr;
 };
 
 struct RecordLayout {
@@ -84,4 +87,11 @@ void assemble_record(const RecordLayout &layout, AstDataRecord *out, uint8_t *bu
     ::kovrel::RecordMember {                                                                           \
         ID, static_cast<uint32_t>(offsetof(RECORD, FIELD)), static_cast<uint32_t>(sizeof(RECORD::FIELD)), \
             ::kovrel::flag_width_of<decltype(RECORD::FIELD)>()                                         \
+    }
+// A member written by the record's own encoder ENCODE (an
+// AstDataItemEncodeExFn) rather than through the item dispatch.
+#define KOVREL_RECORD_MEMBER_ENCODED(RECORD, FIELD, ID, ENCODE)                                        \
+    ::kovrel::RecordMember {                                                                           \
+        ID, static_cast<uint32_t>(offsetof(RECORD, FIELD)), static_cast<uint32_t>(sizeof(RECORD::FIELD)), \
+            ::kovrel::flag_width_of<decltype(RECORD::FIELD)>(), ENCODE                                 \
     }

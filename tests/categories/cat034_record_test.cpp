@@ -161,21 +161,41 @@ TEST(Cat034Record, AssemblesTheOctetsItWasDisassembledFrom) {
         EXPECT_EQ(small.back(), 0xEE);
     }
 
-    // The status items have no encoder: a record holding one is not written.
+    // The status, processing mode, counters and position come back through
+    // the record's own encoders (PSR and MDS of I034/050 from their spans);
+    // SPF, which has no member, is left out.
     AstRecord034 d;
     const AstDataRecord status = decode(kStatus);
     disassemble(d, &status);
     std::vector<uint8_t> buffer(64, 0xEE);
     AstDataRecord out;
     ast_datarecord_034_assemble(&out, buffer.data(), buffer.size(), &d, &AST_UAP_STANDARD);
-    EXPECT_EQ(out.valid, 0);
-    // Without them the rest of the record comes back.
-    d.i050.valid = d.i060.valid = d.i070.valid = d.i120.valid = 0;
-    ast_datarecord_034_assemble(&out, buffer.data(), buffer.size(), &d, &AST_UAP_STANDARD);
     ASSERT_EQ(out.valid, 1);
-    EXPECT_EQ(Octets(buffer.begin(), buffer.begin() + out.length),
-              (Octets{0xE0, 0x19, 0x0D, 0x03, 0x6A, 0x2B, 0x40}));
-    // A value out of its field's range makes the record invalid.
+    Octets expected(kStatus.begin(), kStatus.end() - 3);
+    expected[1] = 0x90;
+    EXPECT_EQ(Octets(buffer.begin(), buffer.begin() + out.length), expected);
+    // Values out of their fields' range make the record invalid.
+    struct Bad {
+        const char *what;
+        void (*spoil)(AstRecord034 &);
+    };
+    const Bad bad[] = {
+        {"RDPC 3", [](AstRecord034 &r) { r.i050.com_rdpc = 3; }},
+        {"channels 4", [](AstRecord034 &r) { r.i050.ssr_ch_ab = 4; r.i050.ssr_present = 1; }},
+        {"RED-RDP 8", [](AstRecord034 &r) { r.i060.com_red_rdp = 8; }},
+        {"STC 4", [](AstRecord034 &r) { r.i060.psr_stc = 4; r.i060.psr_present = 1; }},
+        {"REP 17", [](AstRecord034 &r) { r.i070.count = 17; }},
+        {"TYP 32", [](AstRecord034 &r) { r.i070.counters[1].typ = 32; }},
+        {"COUNT 2048", [](AstRecord034 &r) { r.i070.counters[0].count = 2048; }},
+        {"height 32768", [](AstRecord034 &r) { r.i120.height.raw = 32768; }},
+        {"latitude 2^23", [](AstRecord034 &r) { r.i120.latitude.raw = 1 << 23; }},
+    };
+    for (const Bad &b : bad) {
+        AstRecord034 spoilt = d;
+        b.spoil(spoilt);
+        ast_datarecord_034_assemble(&out, buffer.data(), buffer.size(), &spoilt, &AST_UAP_STANDARD);
+        EXPECT_EQ(out.valid, 0) << b.what;
+    }
     d.i010.sac = 256;
     ast_datarecord_034_assemble(&out, buffer.data(), buffer.size(), &d, &AST_UAP_STANDARD);
     EXPECT_EQ(out.valid, 0);

@@ -76,6 +76,13 @@ Octets cat034_north_marker(double t, unsigned plots_last_scan) {
     // Mode S sensors, all channels A, no fault.
     r.set(6, Compound().set(1, {0x00}).set(5, {0x20}).set(6, {0x20, 0x00}).build());
     r.set(7, Compound().set(1, {0x00}).set(5, {0x00}).set(6, {0x00}).build());
+    // Every third scan the primary radar reports too, in circular
+    // polarization with STC map 2, and the processor runs on chain 2 with
+    // reduction step 1.
+    if (plots_last_scan % 3 == 1) {
+        r.set(6, Compound().set(1, {0x40}).set(4, {0x40}).set(5, {0xA0}).set(6, {0x20, 0x00}).build());
+        r.set(7, Compound().set(1, {0x10}).set(4, {0x94}).set(5, {0x20}).set(6, {0x10}).build());
+    }
     // Message counts: single SSR reports and Mode S roll-call reports.
     r.set(8, Writer().u8(2).u16((2u << 11) | 2u).u16((5u << 11) | (plots_last_scan & 0x7FF)).done());
     // 3D position of the radar: 560 m, lat/lon in 180/2^23.

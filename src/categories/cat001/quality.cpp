@@ -3,9 +3,12 @@
 // fields of seven-bit octets.
 #include "categories/cat001/chain.h"
 #include "categories/cat001/item_fields.h"
+#include "categories/cat001/station_encode.h"
 #include "items/item_ex.h"
 #include "items/item_support.h"
 #include "kovrel/cat001.h"
+
+#include <initializer_list>
 
 namespace {
 
@@ -32,6 +35,35 @@ template <size_t N>
 void keep_extra(uint32_t (&extra)[N], uint32_t *extra_count, const Chain &c, uint32_t named) {
     *extra_count = 0;
     for (uint32_t i = named; i < c.count && *extra_count < N; ++i) extra[(*extra_count)++] = c.values[i];
+}
+
+// Writes the named values, then the extra ones, as one FX chain of at most
+// max octets; an invalid value, a flag above 1 or a short buffer leaves the
+// span invalid.
+template <size_t N>
+void encode_chain(AstDataItem *out, uint8_t *buffer, size_t size, const uint32_t *named, uint32_t named_count,
+                  const uint32_t (&extra)[N], uint32_t extra_count, size_t max) {
+    if (!items::encode_begin(out, buffer, size, 1)) return;
+    if (extra_count > N || named_count + extra_count > max) return;
+    uint32_t values[kMaxQuality] = {};
+    for (uint32_t i = 0; i < named_count; ++i) values[i] = named[i];
+    for (uint32_t i = 0; i < extra_count; ++i) values[named_count + i] = extra[i];
+    const uint32_t count = named_count + extra_count;
+    if (!kovrel::cat001::write_chain(buffer, size, values, count, max)) return;
+    items::encode_done(out, buffer, count);
+}
+
+// Flag bits of a seven-bit octet, most significant first; false when one
+// is not 0 or 1.
+bool pack_flags(uint32_t *octet, std::initializer_list<uint32_t> flags) {
+    uint32_t v = 0;
+    int shift = 6;
+    for (uint32_t f : flags) {
+        if (f > 1) return false;
+        v |= f << shift--;
+    }
+    *octet = v;
+    return true;
 }
 
 void octet_label(char (&label)[16], uint32_t index) {
@@ -169,7 +201,10 @@ KOVREL_API void ast_dataitem_001_903_decode(AstItem001_903 *out, const AstDataIt
     out->a3 = (f >> 2) & 1u;
     out->aaz = (f >> 1) & 1u;
     out->aeo = f & 1u;
-    if (c.count >= 2) out->spl = (c.values[1] >> 6) & 1u;
+    if (c.count >= 2) {
+        out->ext1_present = 1;
+        out->spl = (c.values[1] >> 6) & 1u;
+    }
     if (c.count >= 3) {
         out->amp_present = 1;
         out->amp = c.values[2];
@@ -261,6 +296,59 @@ KOVREL_API void ast_dataitem_001_904_get_detail_html(char *buffer, size_t size, 
 
 }  // extern "C"
 
+// The station items are written only as members of a disassembled record:
+// the record assembly calls these.
+namespace kovrel::cat001 {
+
+void encode_901(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem001_901 *in) {
+    uint32_t octet = 0;
+    if (!in || in->valid != 1 || !pack_flags(&octet, {in->tsm, in->pe})) {
+        items::encode_begin(out, buffer, size, 1);
+        return;
+    }
+    encode_chain(out, buffer, size, &octet, 1, in->extra, in->extra_count, 6);
+}
+
+void encode_902(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem001_902 *in) {
+    if (!in || in->valid != 1) {
+        items::encode_begin(out, buffer, size, 1);
+        return;
+    }
+    encode_chain(out, buffer, size, &in->amp, 1, in->extra, in->extra_count, 12);
+}
+
+// Octets 2 to 4 are written up to the last one the structure holds: the
+// extra octets need the confidence octet before them, the confidence the
+// amplitude, the amplitude octet 2.
+void encode_903(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem001_903 *in) {
+    uint32_t named[4] = {};
+    if (!in || in->valid != 1 || in->spl > 1 ||
+        !pack_flags(&named[0], {in->mnt, in->pe, in->wet, in->rag, in->a3, in->aaz, in->aeo})) {
+        items::encode_begin(out, buffer, size, 1);
+        return;
+    }
+    named[1] = in->spl << 6;
+    named[2] = in->amp;
+    named[3] = in->conf;
+    const uint32_t count = (in->extra_count > 0 || in->conf_present) ? 4
+                           : in->amp_present                       ? 3
+                           : (in->ext1_present || in->spl)         ? 2
+                                                                   : 1;
+    encode_chain(out, buffer, size, named, count, in->extra, count == 4 ? in->extra_count : 0, 6);
+}
+
+void encode_904(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem001_904 *in) {
+    if (!in || in->valid != 1) {
+        items::encode_begin(out, buffer, size, 1);
+        return;
+    }
+    const uint32_t named[3] = {in->tq, in->peak, in->azext};
+    const uint32_t count = (in->extra_count > 0 || in->azext_present) ? 3 : in->peak_present ? 2 : 1;
+    encode_chain(out, buffer, size, named, count, in->extra, count == 3 ? in->extra_count : 0, 11);
+}
+
+}  // namespace kovrel::cat001
+
 KOVREL_DECODE_EX(001_210, AstItem001_210, ast_dataitem_001_210_decode)
 KOVREL_ENCODE_EX(001_210, AstItem001_210, ast_dataitem_001_210_encode)
 KOVREL_DECODE_EX(001_901, AstItem001_901, ast_dataitem_001_901_decode)
@@ -311,7 +399,7 @@ constexpr FieldRow k903Rows[] = {
     flag("a3", KOVREL_MEMBER(P2, a3)),
     flag("aaz", KOVREL_MEMBER(P2, aaz)),
     flag("aeo", KOVREL_MEMBER(P2, aeo)),
-    flag("spl", KOVREL_MEMBER(P2, spl)),
+    flag("spl", KOVREL_MEMBER(P2, spl)).when(KOVREL_MEMBER(P2, ext1_present)),
     integer("amp", KOVREL_MEMBER(P2, amp), "dB").width(7).when(KOVREL_MEMBER(P2, amp_present)),
     integer("conf", KOVREL_MEMBER(P2, conf)).width(7).when(KOVREL_MEMBER(P2, conf_present)),
     KOVREL_EXTRA(P2),
