@@ -122,6 +122,36 @@ TEST(ToolEncode, RecordFieldsBecomeItems) {
     }
 }
 
+TEST(ToolEncode, RadarRecordFieldsBecomeItems) {
+    const struct {
+        const char *line;
+        const char *block;
+    } cases[] = {
+        // CAT001 track (standard profile, FRNs 1 010, 2 020, 3 161, 4 040,
+        // 6 200, 7 070, 8 090, 9 141): TYP track with SSR and PSR; RHO
+        // 1600/128; THETA and heading 16384 x 360/65536; speed 1911 x 2^-14
+        // NM/s; FL 1400 quarters; time 1.5 s = 192/128.
+        {R"({"cat":1,"fields":{"sac":25,"sic":2,"track":300,"rho":12.5,"theta":90,"mode3a":"1234","fl":35000,)"
+         R"("tod":1.5,"speed":420,"heading":90}})",
+         "01 00 18 F7 C0 19 02 B0 01 2C 06 40 40 00 07 77 40 00 02 9C 05 78 00 C0"},
+        // A plot in the plot profile (FRN 3 is I001/040): PSR alone.
+        {R"({"cat":1,"uap":"cat001_plot","fields":{"sac":1,"sic":2,"msgtype":"Plot","rho":1,"theta":0}})",
+         "01 00 0B E0 01 02 10 00 80 00 00"},
+        // The truncated time keeps the low 16 bits: 10:00:00 is 4608000/128.
+        {R"({"cat":1,"fields":{"sac":1,"sic":2,"tod":"10:00:00"}})", "01 00 0A C1 40 01 02 10 50 00"},
+        // Service messages: a sector crossing at 90 degrees (64 x 360/256),
+        // a north marker.
+        {R"({"cat":34,"fields":{"sac":25,"sic":1,"msgtype":"Sector","sector":90,"tod":"10:00:00"}})",
+         "22 00 0B F0 19 01 02 46 50 00 40"},
+        {R"({"cat":2,"fields":{"sac":25,"sic":2,"msgtype":"North","tod":1}})", "02 00 0A D0 19 02 01 00 00 80"},
+    };
+    for (const auto &c : cases) {
+        const Encoded e = encode(std::string(c.line) + "\n");
+        EXPECT_EQ(e.messages, "") << c.line;
+        EXPECT_EQ(hex(e.blocks), c.block) << c.line;
+    }
+}
+
 TEST(ToolEncode, ItemsByFieldsAndByOctets) {
     const struct {
         const char *line;
@@ -195,7 +225,17 @@ TEST(ToolEncode, BadLinesSayWhereAndAreSkipped) {
         {R"({"cat":48})", "no fields or items"},
         {R"({"cat":48,"items":[]})", "no fields or items"},
         {R"({"cat":99,"items":[]})", "cat: category 99 is not supported"},
-        {R"({"cat":62,"fields":{"sac":1,"sic":2}})", "cat: category 62 takes items (record fields are read for 48 only)"},
+        {R"({"cat":62,"fields":{"sac":1,"sic":2}})", "cat: category 62 takes items (it has no record fields to write)"},
+        // The radar categories' record fields.
+        {R"({"cat":1,"fields":{"sac":1,"sic":2,"msgtype":"Track"}})", "msgtype: a Track needs track"},
+        {R"({"cat":1,"fields":{"sac":1,"sic":2,"msgtype":"North"}})", "msgtype: not Plot or Track"},
+        {R"({"cat":1,"fields":{"sac":1,"sic":2,"speed":300}})", "speed and heading go together"},
+        {R"({"cat":1,"fields":{"sac":1,"sic":2,"track":65536}})", "track: not a whole number from 0 to 65535"},
+        {R"({"cat":1,"uap":"cat001_plot","fields":{"sac":1,"sic":2,"track":7}})", "I001/161: not in profile cat001_plot"},
+        {R"({"cat":34,"fields":{"sac":1,"sic":2}})", "msgtype is required"},
+        {R"({"cat":2,"fields":{"sac":1,"sic":2,"msgtype":"South"}})",
+         "msgtype: not North or Sector (give other types as items)"},
+        {R"({"cat":2,"fields":{"sac":1,"sic":2,"msgtype":"North","fl":100}})", "fl: unknown field"},
         {R"({"cat":48,"uap":"nonesuch","fields":{"sac":1,"sic":2}})", "uap: no profile nonesuch"},
         {R"({"cat":48,"fields":[1]})", "fields: not an object"},
         {record_line(R"({})"), "sac and sic are required"},
@@ -310,11 +350,14 @@ TEST(ToolEncode, RecordFieldsComeBackFromTheDecoder) {
     for (size_t i = 0; i < exact.size(); ++i) EXPECT_EQ(back[i], json::parse(exact[i])) << i;
     EXPECT_EQ(back[3], json::parse(R"({"sac":7,"sic":9,"tod":"12:34:56.789","fl":35000,"rho":12.5,"theta":45.0})"));
 
-    // The decoder's own lines of the sample encode again to the same fields.
+    // The decoder's own lines of the sample encode again to the same fields,
+    // in every category that has record fields.
     text.clear();
     std::vector<json> originals;
+    std::set<int> categories;
     for (auto &record : decode_json(Octets(kSamplePcap, kSamplePcap + kSamplePcapSize)))
-        if (record["cat"] == 48) {
+        if (record["cat"] == 48 || record["cat"] == 1 || record["cat"] == 2 || record["cat"] == 34) {
+            categories.insert(record["cat"].get<int>());
             record.erase("items");
             text += record.dump() + "\n";
             // Read from I048/250, which is not written.
@@ -323,6 +366,7 @@ TEST(ToolEncode, RecordFieldsComeBackFromTheDecoder) {
             originals.push_back(record["fields"]);
         }
     ASSERT_GT(originals.size(), 50u);
+    EXPECT_EQ(categories, (std::set<int>{1, 2, 34, 48}));
     const Encoded sample = encode(text);
     EXPECT_EQ(sample.messages, "");
     const auto records = decode_json(sample.blocks);

@@ -20,35 +20,19 @@
 //   ignored. An item that has usable fields is built from them even when
 //   "hex" is also given.
 //
-// "fields" (category 48 only): the record's values as the decoder shows
-//   them, each becoming an item:
-//   sac, sic (both)            I048/010; required without items
-//   tod                        I048/140: "HH:MM:SS[.fff]" or seconds since midnight
-//   typ (0..7)                 I048/020, written without items even when typ
-//                              is absent: TYP as given, else 5 (SSR + Mode S
-//                              roll-call) with icao, 2 (SSR) without
-//   rho, theta (both)          I048/040: NM, degrees
-//   mode3a                     I048/070: one to four octal digits, as a string
-//   fl                         I048/090: feet
-//   icao                       I048/220: one to six hexadecimal digits, not 0
-//   callsign                   I048/240: up to 8 characters A-Z, 0-9, blank
-//   track (0..4095)            I048/161
-//   speed with heading         I048/200: knots, degrees (a heading alone
-//                              is left out, see below)
-// Values are rounded to the nearest step of their item (tod 1/128 s, fl 25
-// ft, rho 1/256 NM, theta and heading 360/65536 degree, speed 2^-14 NM/s);
-// azimuths are taken modulo 360. The keys the decoder shows that these
-// items do not carry (msgtype, sel_alt, lat, lon, vx, vy, vrate, and a
-// heading without speed: the decoder reads CAT048 headings from the Mode S
-// registers of I048/250 and has no CAT048 speed) are accepted and left out,
-// so that decoded records can be encoded again; any other key in fields is
-// an error.
+// "fields": the record's values as the decoder shows them, each becoming
+//   an item, for the categories with a reader in encode_fields_NNN.cpp
+//   (see there for the keys of each; CAT048's are sac, sic, tod, typ, rho,
+//   theta, mode3a, fl, icao, callsign, track, speed with heading). Values
+//   are rounded to the nearest step of their item; keys the decoder shows
+//   that no item carries are accepted and left out, so that decoded records
+//   can be encoded again; any other key is an error.
 //
 // An item in "items" wins over the same item built from "fields". With
 // items (a list that is not empty) the record fields give only what they
-// name: I048/020 only from typ, and sac and sic are not required. Other
-// categories take items only; their record "fields" (what the decoder
-// shows) are then ignored. Keys of the object besides cat, uap, fields and
+// name: I048/020 only from typ, and sac and sic are not required.
+// Categories without a reader take items only; their record "fields" (what
+// the decoder shows) are then ignored. Keys of the object besides cat, uap, fields and
 // items (input, block, ...) are ignored.
 #pragma once
 

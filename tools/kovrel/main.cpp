@@ -76,7 +76,7 @@ int main(int argc, char **argv) {
 
     kovrel_tool::EncodeOptions encode_options;
     auto *encode = app.add_subcommand(
-        "encode", "write data blocks from JSON Lines (items of any category, record fields of CAT048)");
+        "encode", "write data blocks from JSON Lines (items of any category, record fields of CAT001, 002, 034 and 048)");
     encode->add_option("file", encode_options.file, "JSON Lines, one record per line (\"-\" or none: standard input)");
     encode->add_option("-o,--output", encode_options.output, "write the blocks to FILE instead of standard output");
     encode->add_option("--block-records", encode_options.block_records,
@@ -84,7 +84,7 @@ int main(int argc, char **argv) {
         ->capture_default_str();
     encode->footer(
         "Each line is one JSON object shaped like those of `kovrel decode --format json`: \"cat\", \"uap\" (a "
-        "profile name; default standard), and \"items\", \"fields\" (CAT048 only) or both. \"items\" lists objects "
+        "profile name; default standard), and \"items\", \"fields\" (CAT001, 002, 034, 048) or both. \"items\" lists objects "
         "{\"id\": \"I048/040\", \"fields\": {...}} or {\"id\": ..., \"hex\": \"0c 80 20 00\"}: an item the library "
         "encodes is built from its fields, each set by its dotted path (a nested object is a group) from numbers, "
         "booleans and texts, Mode 3/A codes and addresses from octal or hexadecimal digits, null leaving the "
@@ -93,6 +93,9 @@ int main(int argc, char **argv) {
         "items), tod (\"HH:MM:SS.fff\"), typ (0-7; without items default 5 with icao, else 2), "
         "rho (NM) with theta (degrees), mode3a (octal digits, as a string), fl (feet), icao (hexadecimal digits), "
         "callsign, track, speed (knots) with heading (degrees); the other keys of decoded fields are left out. "
+        "CAT001: sac, sic, msgtype (Plot or Track: I001/020, written without items), track, rho with theta, "
+        "mode3a, fl, tod (I001/141, the low 16 bits), speed with heading; use uap cat001_plot for plots. CAT002 "
+        "and CAT034: sac, sic, msgtype (North or Sector; both required without items), tod, sector (degrees). "
         "Values are rounded to the nearest step of their item; an item in items wins over the same item from "
         "fields. Consecutive records of a category share a block; the blocks are written back to back. Bad lines "
         "are reported on standard error with their line number, item and field (\"in.jsonl:3: I048/010.sac: value "
