@@ -131,6 +131,31 @@ TEST(ToolHtml, ProblemsShowWhereTheyOccurAndNamesAreEscaped) {
     EXPECT_TRUE(has(none, "No record decoded."));
 }
 
+TEST(ToolHtml, RecordHeadingsShowTrackIdentityAndPosition) {
+    // CAT048 FRNs 1 010, 4 040, 5 070, 9 240, 11 161; CAT001 plot FRNs
+    // 1 010, 2 020, 3 040, 4 070, 5 090.
+    const struct {
+        Octets block;
+        const char *heading;
+    } cases[] = {
+        // A track with a callsign: the callsign wins over the code; RHO
+        // 3200/256 NM, THETA 45 degrees.
+        {{0x30, 0x00, 0x15, 0x99, 0x50, 0x19, 0x01, 0x0C, 0x80, 0x20, 0x00, 0x0A, 0x3F, 0x10, 0xC2, 0x31,
+          0xCB, 0x38, 0x20, 0x00, 0x4D},
+         "SAC 25 SIC 1<span class=\"sep\">|</span>TRK 77<span class=\"sep\">|</span>DLH123<span class=\"sep\">|"
+         "</span>12.50 NM 45.00&deg;<span class=\"sep\">|</span>5 items"},
+        // A plot: no track, the Mode 3/A code.
+        {{0x01, 0x00, 0x0F, 0xF8, 0x19, 0x02, 0x30, 0x06, 0x40, 0x80, 0x00, 0x0A, 0x3F, 0x05, 0x78},
+         "SAC 25 SIC 2<span class=\"sep\">|</span>A5077<span class=\"sep\">|</span>12.50 NM 180.00&deg;<span "
+         "class=\"sep\">|</span>5 items"},
+    };
+    for (const auto &c : cases) {
+        Page p;
+        p.write("heading", c.block);
+        EXPECT_TRUE(has(p.text, c.heading)) << p.text;
+    }
+}
+
 TEST(ToolHtml, LongItemsShowTheirFirstOctets) {
     // One CAT048 record holding I048/250 with 200 registers: 1601 octets.
     Octets block = {48, 0x06, 0x46, 0x01, 0x20, 200};

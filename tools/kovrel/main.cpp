@@ -16,7 +16,8 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                     "icao, lat, lon, rho, theta, speed, heading, vx, vy, vrate: those the record has) and \"items\" "
                     "(id, name, len, hex, summary and the item's own \"fields\" when the library describes them); "
                     "csv: a header row and one row per record (see --columns); html: one self-contained page per "
-                    "input (records as collapsible sections with item tables, detail views, octets)")
+                    "input (records as collapsible sections headed by SAC/SIC, time, track number, callsign or "
+                    "Mode 3/A code and position, with item tables, detail views, octets)")
         ->check(CLI::IsMember({"text", "json", "csv", "html"}));
     app->add_option("--columns", o.columns,
                     "csv: comma-separated columns (implies --format csv). Record columns: input, block, offset, "

@@ -124,6 +124,35 @@ void HtmlPage::record(const RecordView &v) {
                       tod.second, tod.millisecond);
         put(head);
     }
+    // What a controller looks for first: the track, who it is, where.
+    AstTrackNumber track;
+    ast_datarecord_get_tracknum(&track, &r);
+    if (track.valid) {
+        std::snprintf(head, sizeof head, "<span class=\"sep\">|</span>TRK %u", track.number);
+        put(head);
+    }
+    AstRecordCallsign callsign;
+    ast_datarecord_get_callsign(&callsign, &r);
+    AstMode3aCode squawk;
+    ast_datarecord_get_squawk(&squawk, &r);
+    if (callsign.valid && callsign.callsign[0] != '\0') {
+        put("<span class=\"sep\">|</span>");
+        put(html_escape(std::string_view(callsign.callsign, strnlen(callsign.callsign, sizeof callsign.callsign))));
+    } else if (squawk.valid) {
+        std::snprintf(head, sizeof head, "<span class=\"sep\">|</span>A%04o", squawk.code & 07777u);
+        put(head);
+    }
+    AstRecordWgs84 wgs;
+    ast_datarecord_get_wgs84coord(&wgs, &r);
+    AstRecordPolar polar;
+    ast_datarecord_get_polarcoord(&polar, &r);
+    if (wgs.valid) {
+        std::snprintf(head, sizeof head, "<span class=\"sep\">|</span>%.5f %.5f", wgs.latitude, wgs.longitude);
+        put(head);
+    } else if (polar.valid) {
+        std::snprintf(head, sizeof head, "<span class=\"sep\">|</span>%.2f NM %.2f&deg;", polar.rho, polar.theta);
+        put(head);
+    }
     std::snprintf(head, sizeof head, "<span class=\"sep\">|</span>%llu item%s",
                   static_cast<unsigned long long>(r.item_count), r.item_count == 1 ? "" : "s");
     put(head);
