@@ -2,7 +2,8 @@
 // the CAT001 mixed decoders, then runs every view of every record and item
 // found, walks every item's fields and checks that their JSON parses and that
 // setting them by name encodes the same octets, copies and rewrites every record, disassembles and assembles every
-// CAT048 record, and assembles CAT048 records from arbitrary member values.
+// record of the categories that have a disassembled record, converts CAT048 and CAT034 records to CAT001 and
+// CAT002, and assembles CAT048 records from arbitrary member values.
 #include <cstddef>
 #include <cstdint>
 #include <cmath>
@@ -311,6 +312,7 @@ void exercise_record_radar(const AstDataRecord &record, void (*disassemble)(Reco
 }
 
 void exercise_record_by_category(const AstDataRecord &record) {
+    exercise_convert(record);
     switch (record.category) {
     case 1:
         exercise_record_radar(record, ast_datarecord_001_disassemble,

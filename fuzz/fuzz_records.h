@@ -16,4 +16,10 @@ extern uint8_t g_buffer[1 << 17];
 // records_NNN.cpp file handles it; does nothing for other categories.
 void exercise_record_more(const AstDataRecord &record);
 
+// CAT048 and CAT034 records: disassembled, converted to CAT001 / CAT002 and
+// assembled into a buffer of exactly the converted record's length and one
+// octet shorter, with a canary past the end; does nothing for other
+// categories.
+void exercise_convert(const AstDataRecord &record);
+
 }  // namespace fuzzing

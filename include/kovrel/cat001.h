@@ -237,7 +237,8 @@ KOVREL_API void ast_dataitem_001_131_get_detail_html(char *buffer, size_t size, 
 
 /**
  * I001/141 Truncated Time of Day, 2 octets, 1/128 s: whole seconds (raw >> 7)
- * and milliseconds ((raw & 127) x 1000 >> 7). The encoder sends raw.
+ * and milliseconds ((raw & 127) x 1000 >> 7). The encoder sends the low 16
+ * bits of raw, so a whole time of day (1/128 s) goes out modulo 512 s.
  * Summary "TTOD:%03d.%03d".
  */
 typedef struct AstItem001_141 {
@@ -452,8 +453,10 @@ KOVREL_API void ast_datarecord_001_disassemble(AstRecord001 *out, const AstDataR
  * track UAP (AST_UAP_STANDARD) when i161 is, else the plot UAP
  * (AST_UAP_CAT001_PLOT). uap may be NULL. *out is the written record, with
  * the profile used in out->uap; it is invalid, and nothing is written past
- * size, when a member is not in that profile, I001/100 is valid (it has no
- * encoder), a value does not fit its field or the buffer is too small.
+ * size, when a member is not in that profile (the plot UAP has no place for
+ * I001/042, 170, 200 and 210, the track UAP writes no I001/150), I001/100 is
+ * valid (it has no encoder), a value does not fit its field or the buffer
+ * is too small.
  */
 KOVREL_API void ast_datarecord_001_assemble(AstDataRecord *out, uint8_t *buffer, size_t size, const AstRecord001 *in,
                                             const AstUap *uap);

@@ -36,5 +36,6 @@
 #include "kovrel/cat063.h"
 #include "kovrel/cat065.h"
 #include "kovrel/cat240.h"
+#include "kovrel/convert.h"
 
 #endif /* KOVREL_KOVREL_H */

@@ -76,7 +76,9 @@ constexpr RecordLayout make_record_layout(uint32_t category, const RecordMember 
 void disassemble_record(const RecordLayout &layout, void *out, const AstDataRecord *record);
 
 // Encodes the members whose valid flag is 1, in table order, as one record
-// of the layout's category with uap (see ast_datarecord_encode).
+// of the layout's category with uap (see ast_datarecord_encode). A valid
+// member that the profile has no FRN for makes the record invalid (logged
+// at DEBUG as "Failed to encode dataitem %s.").
 void assemble_record(const RecordLayout &layout, AstDataRecord *out, uint8_t *buffer, size_t size, const void *in,
                      const AstUap *uap);
 

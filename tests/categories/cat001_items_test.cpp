@@ -430,6 +430,29 @@ TEST(Cat001Record, DisassembleAndAssembleGiveTheSameOctets) {
     rec.i131.power = 200;
     ast_datarecord_001_assemble(&out, buffer, sizeof buffer, &rec, nullptr);
     EXPECT_EQ(out.valid, 0);
+    rec.i131.power = -20;
+
+    // Members the chosen layout has no place for make the record invalid
+    // rather than vanish: track items in a plot, I001/150 in a track, a
+    // standard item in the ASR-10SS layout named by the caller.
+    const struct {
+        const char *what;
+        void (*change)(AstRecord001 &);
+        const AstUap *uap;
+    } misplaced[] = {
+        {"I001/042 in a plot", [](AstRecord001 &r) { r.i161.valid = 0; r.i042 = {1, {64, 0, 0}, {-64, 0, 0}}; }, nullptr},
+        {"I001/170 in a plot", [](AstRecord001 &r) { r.i161.valid = 0; r.i170.valid = 1; r.i170.rdpc = 1; }, nullptr},
+        {"I001/150 in a track", [](AstRecord001 &r) { r.i150 = {1, 1, 0, 0}; }, nullptr},
+        {"I001/130 under ASR-10SS", [](AstRecord001 &) {}, &AST_UAP_ASR10SS},
+    };
+    for (const auto &m : misplaced) {
+        AstRecord001 changed = rec;
+        m.change(changed);
+        ast_datarecord_001_assemble(&out, buffer, sizeof buffer, &changed, m.uap);
+        EXPECT_EQ(out.valid, 0) << m.what;
+    }
+    ast_datarecord_001_assemble(&out, buffer, sizeof buffer, &rec, nullptr);
+    EXPECT_EQ(out.valid, 1);
 }
 
 TEST(Cat001Record, ItemsWithoutMemberOrEncoder) {

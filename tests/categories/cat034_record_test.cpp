@@ -189,6 +189,9 @@ TEST(Cat034Record, AssemblesTheOctetsItWasDisassembledFrom) {
         {"COUNT 2048", [](AstRecord034 &r) { r.i070.counters[0].count = 2048; }},
         {"height 32768", [](AstRecord034 &r) { r.i120.height.raw = 32768; }},
         {"latitude 2^23", [](AstRecord034 &r) { r.i120.latitude.raw = 1 << 23; }},
+        // A compound item without a subfield could not be read back.
+        {"050 empty", [](AstRecord034 &r) { r.i050.com_present = r.i050.ssr_present = 0; r.i050.subfields.valid = 0; }},
+        {"060 empty", [](AstRecord034 &r) { r.i060.com_present = r.i060.mds_present = 0; }},
     };
     for (const Bad &b : bad) {
         AstRecord034 spoilt = d;

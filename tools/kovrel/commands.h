@@ -48,4 +48,17 @@ struct EncodeOptions {
 // none was (or writing failed), 2 for bad options.
 int run_encode(const EncodeOptions &options);
 
+// Options of `kovrel convert [FILE...] [-o OUT]`.
+struct ConvertOptions {
+    std::vector<std::string> files;  // none: the built-in sample recording
+    std::string output;              // "" or "-": standard output (not a terminal)
+    bool drop_others = false;        // leave out categories other than 048 and 034
+    bool stats = false;              // counts on standard error
+};
+
+// `kovrel convert`: CAT048 to CAT001 and CAT034 to CAT002 (see convert.h).
+// Exit status 0 when at least one record was converted, 1 when none was,
+// or writing failed, 2 for bad options (and standard output a terminal).
+int run_convert(const ConvertOptions &options);
+
 }  // namespace kovrel_tool

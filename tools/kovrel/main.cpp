@@ -103,6 +103,40 @@ int main(int argc, char **argv) {
         "out of range\") and skipped. Exit status 0 when at least one record was written, 1 when none was, 2 for "
         "bad options.");
 
+    kovrel_tool::ConvertOptions convert_options;
+    auto *convert = app.add_subcommand("convert", "convert CAT048 to CAT001 and CAT034 to CAT002");
+    convert->add_option("files", convert_options.files,
+                        "pcap, pcapng, raw data blocks or hexadecimal text (\"-\": standard input); none: the "
+                        "built-in sample recording");
+    convert->add_option("-o,--output", convert_options.output,
+                        "write to FILE (\"-\" or none: standard output, which must not be a terminal)");
+    convert->add_flag("--drop-others", convert_options.drop_others,
+                      "leave out the blocks of categories other than 048 and 034 (by default they are written "
+                      "unchanged)");
+    convert->add_flag("--stats", convert_options.stats,
+                      "counts on standard error: inputs, blocks read and written, records converted, passed, "
+                      "dropped and failed, packets read and written");
+    convert->footer(
+        "Every CAT048 record becomes a CAT001 record and every CAT034 record a CAT002 record (decoded, "
+        "disassembled, converted and assembled by the library); the records of one block stay together in one "
+        "block of the older category (a CAT001 block may mix plots and tracks: a record with I048/161 becomes a "
+        "track, one without it a plot). Carried to CAT001: I048/010, 020, 040, 042 (halved to 1/64 NM), 070, "
+        "090, 140 (as I001/141, the time of day modulo 512 s), 161, 170 and 200; the measured position is "
+        "written in CAT001 steps; a plot has no place for 042, 170 and 200, which it loses. Carried to CAT002: I034/000 (North marker and sector crossing only), 010, 020 "
+        "and 030. Everything else is dropped. Blocks of other categories are written unchanged unless "
+        "--drop-others. Several inputs go to one output, whose kind the first input decides: a pcap or pcapng "
+        "capture gives a pcap file (nanosecond time stamps, the first capture's link type) with one packet per "
+        "input UDP packet that still carries a payload, keeping its time stamp, addresses and ports, with the "
+        "IP and UDP lengths and checksums made to match the new payload; packets that are not whole UDP "
+        "datagrams are not written, and neither are later inputs that are not captures of the same link type "
+        "(reported). Any other first input gives raw data blocks back to back (captures after it give their UDP "
+        "payloads' blocks). A record that cannot be converted (for instance one holding no item that CAT001 "
+        "carries) is reported on standard error with its location, \"kovrel: in.pcap: block 3 at pkt "
+        "12+0, record 2 (CAT048): not converted: ...\" (locations as in kovrel decode), and left out; so is the "
+        "rest of a CAT048 or CAT034 block that cannot be read. Exit status 0 when at least one record was "
+        "converted, 1 when none was or the output cannot be written, 2 for bad options or binary output to a "
+        "terminal.");
+
     // Added last: subcommands take over the help footer of their parent.
     kovrel_tool::DecodeOptions decode_options;
     auto *decode = app.add_subcommand("decode", "decode recordings (the default command)");
@@ -117,6 +151,7 @@ int main(int argc, char **argv) {
     }
 
     if (*encode) return kovrel_tool::run_encode(encode_options);
+    if (*convert) return kovrel_tool::run_convert(convert_options);
     if (*uap) return kovrel_tool::run_uap(stdout, profile, category);
     if (*info) return kovrel_tool::run_info(stdout);
     return kovrel_tool::run_decode(decode_options);

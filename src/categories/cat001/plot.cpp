@@ -149,8 +149,10 @@ KOVREL_API void ast_dataitem_001_141_decode(AstItem001_141 *out, const AstDataIt
 
 KOVREL_API void ast_dataitem_001_141_encode(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem001_141 *in) {
     if (!items::encode_begin(out, buffer, size, 2)) return;
-    if (!in || in->valid != 1 || in->raw > 0xFFFF) return;
-    ast_unsigned_encode(buffer, 2, in->raw);
+    if (!in || in->valid != 1) return;
+    // The item is the time of day modulo 512 s: a full time of day in raw
+    // (1/128 s) goes out as its low 16 bits.
+    ast_unsigned_encode(buffer, 2, in->raw & 0xFFFFu);
     items::encode_done(out, buffer, 2);
 }
 

@@ -24,10 +24,11 @@ const uint8_t *span_octets(const AstSubfieldList &list, size_t position, uint64_
     return s.present == 1 && s.valid == 1 && s.data && s.length == length ? s.data : nullptr;
 }
 
-// Writes the primary octet and the given subfield octets.
+// Writes the primary octet and the given subfield octets. A compound item
+// without any subfield cannot be delimited, so none is written.
 void write_compound(AstDataItem *out, uint8_t *buffer, size_t size, uint8_t primary, const uint8_t *octets,
                     size_t count) {
-    if (!items::encode_begin(out, buffer, size, 1 + count)) return;
+    if (primary == 0 || !items::encode_begin(out, buffer, size, 1 + count)) return;
     buffer[0] = primary;
     for (size_t i = 0; i < count; ++i) buffer[1 + i] = octets[i];
     items::encode_done(out, buffer, 1 + count);

@@ -13,7 +13,8 @@
 namespace kovrel::cat034 {
 
 // The subfields that are present (COM and SSR from their fields; PSR and
-// MDS, which are kept only as spans, from the octets of their spans).
+// MDS, which are kept only as spans, from the octets of their spans); an
+// item without any of them is not written (it could not be read back).
 void encode_050(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem034_050 *in);
 void encode_060(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem034_060 *in);
 // REP (count, at most 16) and the counters (TYP 5 bits, COUNT 11 bits).
