@@ -4,7 +4,11 @@
 
 #include <cstdint>
 #include <cstring>
+#include <map>
+#include <memory>
 #include <vector>
+
+#include "kovrel/kovrel.h"
 
 #include "sample.h"
 
@@ -29,6 +33,28 @@ inline std::vector<std::vector<uint8_t>> sample_datagrams() {
         pos += caplen;
     }
     return out;
+}
+
+// The sample's records of one category, smart-decoded; they point into
+// datagrams kept for the life of the program.
+inline const std::vector<AstDataRecord> &sample_records(uint32_t category) {
+    static const auto datagrams = sample_datagrams();
+    static const auto by_category = [] {
+        std::map<uint32_t, std::vector<AstDataRecord>> out;
+        auto block = std::make_unique<AstDataBlock>();
+        for (const auto &d : datagrams) {
+            for (size_t p = 0; p + 3 <= d.size(); p += block->length) {
+                ast_datablock_smart_decode_into(block.get(), d.data() + p, d.size() - p);
+                if (block->valid != 1) break;
+                auto &to = out[block->category];
+                to.insert(to.end(), block->records, block->records + block->record_count);
+            }
+        }
+        return out;
+    }();
+    static const std::vector<AstDataRecord> none;
+    const auto it = by_category.find(category);
+    return it == by_category.end() ? none : it->second;
 }
 
 }  // namespace kovrel_bench

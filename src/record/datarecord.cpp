@@ -41,7 +41,7 @@ const AstDataItemValue *find_value(const AstDataItemValue *items, uint64_t count
 namespace kovrel {
 
 void encode_record(AstDataRecord *out, uint8_t *buffer, size_t size, const AstDataRecordInput *input,
-                   const AstDataItemEncodeExFn *encoders) {
+                   const AstDataItemEncodeExFn *encoders, bool every_item) {
     if (!out) return;
     begin_record(out, buffer, input ? input->category : 0, input ? &input->uap : nullptr);
     if (!input) return;
@@ -55,15 +55,28 @@ void encode_record(AstDataRecord *out, uint8_t *buffer, size_t size, const AstDa
 
     // FSPEC: clear every FRN bit the profile knows, set those of the items.
     uint64_t fspec_length = 0;
+    uint64_t placed = 0;
     for (uint32_t frn = 1; frn <= max_frn; ++frn) {
         ast_fspec_set(buffer, size, frn, false);
         const AstItemId id = ast_uap_get_dataitem(&input->uap, category, frn);
         if (!find_value(input->items, input->item_count, id)) continue;
+        ++placed;
         if (!ast_fspec_set(buffer, size, frn, true)) {
             ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
             return;
         }
         fspec_length = (frn - 1) / 7 + 1;
+    }
+    if (every_item && placed != (input->item_count < AST_DATARECORD_MAX_ITEMS ? input->item_count
+                                                                              : AST_DATARECORD_MAX_ITEMS)) {
+        // An item the profile has no FRN for would be lost without a word.
+        for (uint64_t i = 0; i < input->item_count && i < AST_DATARECORD_MAX_ITEMS; ++i) {
+            bool found = false;
+            for (uint32_t frn = 1; frn <= max_frn && !found; ++frn)
+                found = ast_uap_get_dataitem(&input->uap, category, frn) == input->items[i].id;
+            if (!found) log_item(AST_LOG_DEBUG, "Failed to encode dataitem %s.", input->items[i].id);
+        }
+        return;
     }
     if (fspec_length == 0) {
         ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
@@ -144,7 +157,7 @@ KOVREL_API void ast_datarecord_decode(AstDataRecord *out, const uint8_t *octets,
 
 KOVREL_API void ast_datarecord_encode(AstDataRecord *out, uint8_t *buffer, size_t size,
                                       const AstDataRecordInput *input) {
-    kovrel::encode_record(out, buffer, size, input, nullptr);
+    kovrel::encode_record(out, buffer, size, input, nullptr, false);
 }
 
 KOVREL_API void ast_datarecord_copy(AstDataRecord *out, uint8_t *buffer, size_t size, const AstDataRecord *record) {

@@ -27,14 +27,6 @@ void set_flag(uint8_t *flag, uint8_t width) {
         std::memcpy(flag, &one, sizeof one);
 }
 
-// True when the profile gives the item an FRN in the category.
-bool in_profile(const AstUap *uap, uint32_t category, AstItemId id) {
-    const uint32_t max = uap ? ast_uap_max_frn(uap, category) : 0;
-    for (uint32_t frn = 1; frn <= max; ++frn)
-        if (ast_uap_get_dataitem(uap, category, frn) == id) return true;
-    return false;
-}
-
 const RecordMember *find_member(const RecordLayout &layout, AstItemId id) {
     for (size_t i = 0; i < layout.member_count; ++i)
         if (layout.members[i].id == id) return &layout.members[i];
@@ -81,17 +73,6 @@ void assemble_record(const RecordLayout &layout, AstDataRecord *out, uint8_t *bu
     for (size_t i = 0; base && i < layout.member_count; ++i) {
         const RecordMember &m = layout.members[i];
         if (!flag_set(base + m.offset, m.flag_width)) continue;
-        // A member the profile has no place for would be lost without a
-        // word: the record is not written.
-        if (!in_profile(uap, layout.category, m.id)) {
-            if (logging_enabled()) {
-                char text[16];
-                ast_dataitem_type_to_str(text, sizeof text, m.id);
-                ast_log(AST_LOG_DEBUG, "Failed to encode dataitem %s.", text);
-            }
-            ast_datarecord_encode(out, nullptr, 0, &input);
-            return;
-        }
         if (input.item_count == AST_DATARECORD_MAX_ITEMS) {
             // More items than a record holds: the encoder reports the
             // record it cannot write.
@@ -102,7 +83,8 @@ void assemble_record(const RecordLayout &layout, AstDataRecord *out, uint8_t *bu
         encoders[input.item_count] = m.encode;
         input.items[input.item_count++] = AstDataItemValue{1, m.id, const_cast<uint8_t *>(base + m.offset)};
     }
-    encode_record(out, buffer, size, &input, encoders);
+    // A member the profile has no place for makes the record invalid.
+    encode_record(out, buffer, size, &input, encoders, true);
 }
 
 }  // namespace kovrel
