@@ -22,4 +22,8 @@ void exercise_record_more(const AstDataRecord &record);
 // categories.
 void exercise_convert(const AstDataRecord &record);
 
+// CAT062 records: disassembled, every accessor asked, every subfield of the
+// compound items summarised and shown into full and small buffers.
+void exercise_record_062(const AstDataRecord &record);
+
 }  // namespace fuzzing

@@ -10,6 +10,7 @@ const AstDataRecordFuncs *find_record_funcs(uint32_t category) {
         case 2: return &kRecordFuncs002;
         case 34: return &kRecordFuncs034;
         case 48: return &kRecordFuncs048;
+        case 62: return &kRecordFuncs062;
         default: return nullptr;
     }
 }

@@ -13,5 +13,6 @@ extern const AstDataRecordFuncs kRecordFuncs001;
 extern const AstDataRecordFuncs kRecordFuncs002;
 extern const AstDataRecordFuncs kRecordFuncs034;
 extern const AstDataRecordFuncs kRecordFuncs048;
+extern const AstDataRecordFuncs kRecordFuncs062;
 
 }  // namespace kovrel
