@@ -26,4 +26,7 @@ void exercise_convert(const AstDataRecord &record);
 // compound items summarised and shown into full and small buffers.
 void exercise_record_062(const AstDataRecord &record);
 
+// CAT240 records: disassembled, every accessor asked, the video vector into arrays of every capacity.
+void exercise_record_240(const AstDataRecord &record);
+
 }  // namespace fuzzing

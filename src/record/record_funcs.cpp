@@ -11,6 +11,7 @@ const AstDataRecordFuncs *find_record_funcs(uint32_t category) {
         case 34: return &kRecordFuncs034;
         case 48: return &kRecordFuncs048;
         case 62: return &kRecordFuncs062;
+        case 240: return &kRecordFuncs240;
         default: return nullptr;
     }
 }

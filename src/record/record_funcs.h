@@ -14,5 +14,6 @@ extern const AstDataRecordFuncs kRecordFuncs002;
 extern const AstDataRecordFuncs kRecordFuncs034;
 extern const AstDataRecordFuncs kRecordFuncs048;
 extern const AstDataRecordFuncs kRecordFuncs062;
+extern const AstDataRecordFuncs kRecordFuncs240;
 
 }  // namespace kovrel

@@ -471,7 +471,8 @@ TEST(ToolEncode, SampleRecordsComeBackFromTheirItems) {
                 at += length;
             }
         }
-        EXPECT_EQ(categories, (std::set<uint32_t>{1, 2, 21, 34, 48, 62}));
+        const std::set<uint32_t> expected{1, 2, 21, 34, 48, 62, 240};
+        EXPECT_TRUE(std::includes(categories.begin(), categories.end(), expected.begin(), expected.end()));
         if (fields_allowed)
             EXPECT_GT(by_fields, records.size());
         else

@@ -1,7 +1,7 @@
 // `kovrel decode --format html`: one self-contained page per input.
 //
 // The page carries its own small style sheet and nothing else: no script,
-// no font, no image, nothing fetched. It holds, in this order:
+// no font, no image file (radar video is drawn as inline SVG), nothing fetched. It holds, in this order:
 //   - a header naming the input;
 //   - one collapsible <details> per record: a heading (block number and
 //     location, record number, category and profile, SAC/SIC and time of

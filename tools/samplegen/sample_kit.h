@@ -253,5 +253,6 @@ void mode_s_radar(std::vector<Datagram> &out);
 void old_radar(std::vector<Datagram> &out);
 void tracker(std::vector<Datagram> &out);
 void adsb(std::vector<Datagram> &out);
+void radar_video(std::vector<Datagram> &out);
 
 }  // namespace samplegen

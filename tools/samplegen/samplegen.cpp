@@ -142,6 +142,7 @@ int main(int argc, char **argv) {
     old_radar(datagrams);
     tracker(datagrams);
     adsb(datagrams);
+    radar_video(datagrams);
     const Octets capture = pcap(datagrams);
     const std::string source = as_cpp(capture);
     if (!write_file(argv[1], capture.data(), capture.size()) || !write_file(argv[2], source.data(), source.size())) {
