@@ -29,4 +29,9 @@ void exercise_record_062(const AstDataRecord &record);
 // CAT240 records: disassembled, every accessor asked, the video vector into arrays of every capacity.
 void exercise_record_240(const AstDataRecord &record);
 
+// CAT021 records: disassembled by each edition's disassembler and the
+// all-editions one, assembled into exact and short buffers with a canary
+// past the end, re-decoded; every accessor asked.
+void exercise_record_021(const AstDataRecord &record);
+
 }  // namespace fuzzing

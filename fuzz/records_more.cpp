@@ -5,6 +5,7 @@ namespace fuzzing {
 
 void exercise_record_more(const AstDataRecord &record) {
     switch (record.category) {
+    case 21: exercise_record_021(record); break;
     case 62: exercise_record_062(record); break;
     case 240: exercise_record_240(record); break;
     default: break;

@@ -8,6 +8,7 @@ const AstDataRecordFuncs *find_record_funcs(uint32_t category) {
     switch (category) {
         case 1: return &kRecordFuncs001;
         case 2: return &kRecordFuncs002;
+        case 21: return &kRecordFuncs021;
         case 34: return &kRecordFuncs034;
         case 48: return &kRecordFuncs048;
         case 62: return &kRecordFuncs062;

@@ -11,6 +11,7 @@ const AstDataRecordFuncs *find_record_funcs(uint32_t category);
 // Accessor tables, one per category folder.
 extern const AstDataRecordFuncs kRecordFuncs001;
 extern const AstDataRecordFuncs kRecordFuncs002;
+extern const AstDataRecordFuncs kRecordFuncs021;
 extern const AstDataRecordFuncs kRecordFuncs034;
 extern const AstDataRecordFuncs kRecordFuncs048;
 extern const AstDataRecordFuncs kRecordFuncs062;

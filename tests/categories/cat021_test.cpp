@@ -171,10 +171,12 @@ TEST(Cat021, MetInformationAndDataAges) {
     char text[32];
     ast_dataitem_get_summary(text, sizeof text, &item);
     EXPECT_STREQ(text, "SUBFIELDS:23/23");
-    // The item's subfield functions stand in both slots; a subfield without
-    // a summary of its own says so.
+    // The item's subfield functions stand in both slots; each age reads in
+    // seconds, a trajectory intent subfield has no summary of its own.
     EXPECT_EQ(ast_subfield_get_capabilities(21295001), 0x6u);
     ast_subfield_get_summary(text, sizeof text, &list.spans[0], 21295001);
+    EXPECT_STREQ(text, "0.50 LSB=SEC");
+    ast_subfield_get_summary(text, sizeof text, &list.spans[0], 21110001);
     EXPECT_STREQ(text, "NOT_IMPLEMENTED");
 }
 
@@ -245,13 +247,16 @@ TEST(Cat021, Edition21RecordScansBackToBack) {
     }
     EXPECT_EQ(pos, record.size());
 
-    // Compound items have the generic subfield views; items laid out as a
-    // common item have its views and entry points; the category's own
-    // elementary items nothing yet.
-    EXPECT_EQ(ast_dataitem_get_capabilities(21295), AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL);
-    EXPECT_EQ(ast_dataitem_get_capabilities(21010), AST_DATAITEM_CAP_DECODE | AST_DATAITEM_CAP_SUMMARY |
-                                                        AST_DATAITEM_CAP_DETAIL | AST_DATAITEM_CAP_ENCODE);
-    EXPECT_EQ(ast_dataitem_get_capabilities(21040), 0u);
+    // Compound items have the generic subfield views and their own decoded
+    // values; every item of the category decodes, describes and encodes,
+    // but for the two that only the generic operations carry.
+    constexpr uint32_t kAllCaps = AST_DATAITEM_CAP_DECODE | AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL |
+                                  AST_DATAITEM_CAP_ENCODE;
+    EXPECT_EQ(ast_dataitem_get_capabilities(21295), kAllCaps);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21010), kAllCaps);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21040), kAllCaps);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21148), 0u);
+    EXPECT_EQ(ast_dataitem_get_capabilities(21165), 0u);
 }
 
 namespace {
@@ -298,19 +303,21 @@ TEST(Cat021, CommonItemsSummariseRecordsOfBothGenerations) {
                         0x01, 0x80, 0, 0, 0, 0, 0, 0, 0x40,                    // 250
                         0x03, 0xAB, 0xCD};                                     // RE
     const std::vector<std::pair<AstItemId, std::string>> new_items = {
-        {21010, "SAC:025 SIC:050"},       {21040, "NOT_IMPLEMENTED"},       {21161, "TRACK_NUM:0291"},
+        {21010, "SAC:025 SIC:050"},       {21040, "TARGET:NORMAL"},       {21161, "TRACK_NUM:0291"},
         {21015, "SVC_ID:007"},            {21071, "TOD:08:00:00.000"},      {21131, "WGS84:450000N0053730E"},
         {21080, "ADDR:3C6586"},           {21074, "FSI:0 TOMR:0.500000"},   {21155, "VR:-1200.00FT/M"},
         {21077, "TOD:08:00:00.250"},      {21250, "BDS:4,0"},               {21998, "RESERVED_EXPANSION"}};
     EXPECT_EQ(summaries(AST_UAP_CAT021_VER21, v21), new_items);
 
-    // Encoders only where the common item writes; an empty detail slot
-    // where it has no view.
+    // Encoders where the common item writes; an empty detail slot where it
+    // has no view.
     constexpr uint32_t kAll =
         AST_DATAITEM_CAP_DECODE | AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL | AST_DATAITEM_CAP_ENCODE;
     for (AstItemId id : {21030u, 21070u, 21080u, 21130u, 21131u, 21157u, 21170u, 21902u, 21910u}) {
         EXPECT_EQ(ast_dataitem_get_capabilities(id), kAll) << id;
     }
+    // High-precision times, registers and explicit fields are written back
+    // by the disassembled record only.
     EXPECT_EQ(ast_dataitem_get_capabilities(21076), kAll & ~AST_DATAITEM_CAP_ENCODE);
     EXPECT_EQ(ast_dataitem_get_capabilities(21250), kAll & ~AST_DATAITEM_CAP_ENCODE);
     EXPECT_EQ(ast_dataitem_get_capabilities(21161), kAll & ~AST_DATAITEM_CAP_DETAIL);

@@ -182,11 +182,14 @@ TEST(ToolEncode, ItemsByFieldsAndByOctets) {
         {R"({"cat":62,"items":[{"id":"I062/010","hex":"19 64"},{"id":"I062/060","fields":{"mode3a":"17"}}]})",
          "3E 00 09 81 40 19 64 00 0F"},
         // An address as hexadecimal digits, an identification as text (CAT021
-        // FRN 1, 5 and 18).
-        {R"({"cat":21,"items":[{"id":"I021/010","hex":"19 32"},{"id":"I021/080","fields":{"aa":"3c654a"}}]})",
+        // edition 0.26 FRN 1, 5 and 18).
+        {R"({"cat":21,"uap":"cat021_ver026","items":[{"id":"I021/010","hex":"19 32"},{"id":"I021/080","fields":{"aa":"3c654a"}}]})",
          "15 00 09 88 19 32 3C 65 4A"},
-        {R"({"cat":21,"items":[{"id":"I021/010","hex":"19 32"},{"id":"I021/170","fields":{"acid":"DLH123"}}]})",
+        {R"({"cat":21,"uap":"cat021_ver026","items":[{"id":"I021/010","hex":"19 32"},{"id":"I021/170","fields":{"acid":"DLH123"}}]})",
          "15 00 0E 81 01 10 19 32 10 C2 31 CB 38 20"},
+        // Without a profile CAT021 goes out in edition 2.1 (I021/080 at FRN 11).
+        {R"({"cat":21,"items":[{"id":"I021/010","hex":"19 32"},{"id":"I021/080","fields":{"aa":"3c654a"}}]})",
+         "15 00 0A 81 10 19 32 3C 65 4A"},
         // A category without structured encoders, in a variant profile: the
         // plot profile has I001/040 at FRN 3.
         {R"({"cat":1,"uap":"cat001_plot","items":[{"id":"I001/010","hex":"19 02"},{"id":"I001/020","hex":"20"},)"

@@ -97,6 +97,7 @@ Reader reader_for(uint32_t category) {
     switch (category) {
     case 1: return read_fields_001;
     case 2: return read_fields_002;
+    case 21: return read_fields_021;
     case 34: return read_fields_034;
     case 48: return read_fields_048;
     default: return nullptr;

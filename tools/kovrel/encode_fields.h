@@ -73,6 +73,7 @@ Reader reader_for(uint32_t category);
 
 void read_fields_001(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 void read_fields_002(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
+void read_fields_021(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 void read_fields_034(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 void read_fields_048(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 

@@ -368,7 +368,8 @@ void fill(const json &object, RecordRequest &out) {
     if (!object.is_object()) throw BadField("not a JSON object");
     if (!object.contains("cat")) throw BadField("no cat");
     const long long cat = whole(object, "cat", 0, 255);
-    std::string profile = "standard";
+    // ADS-B is written in edition 2.1 unless the line names another.
+    std::string profile = cat == 21 ? "cat021_ver21" : "standard";
     if (object.contains("uap")) {
         if (!object["uap"].is_string()) bad("uap", "not a string");
         profile = object["uap"].get<std::string>();

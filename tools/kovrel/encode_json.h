@@ -2,8 +2,8 @@
 // `kovrel decode --format json`.
 //
 // An object names its category in "cat" and may name the profile in "uap"
-// (a profile name as `kovrel uap --profile` takes it; "standard" when
-// absent). Its items come from two places:
+// (a profile name as `kovrel uap --profile` takes it; when absent
+// "cat021_ver21" for CAT021, edition 2.1, and "standard" otherwise). Its items come from two places:
 //
 // "items": a list of objects shaped like the decoded items,
 //   {"id": "I048/040", "fields": {"rho": 12.5, "theta": 45.0}, "hex": "..."}.

@@ -77,7 +77,7 @@ int main(int argc, char **argv) {
 
     kovrel_tool::EncodeOptions encode_options;
     auto *encode = app.add_subcommand(
-        "encode", "write data blocks from JSON Lines (items of any category, record fields of CAT001, 002, 034 and 048)");
+        "encode", "write data blocks from JSON Lines (items of any category, record fields of CAT001, 002, 021, 034 and 048)");
     encode->add_option("file", encode_options.file, "JSON Lines, one record per line (\"-\" or none: standard input)");
     encode->add_option("-o,--output", encode_options.output, "write the blocks to FILE instead of standard output");
     encode->add_option("--block-records", encode_options.block_records,
@@ -85,7 +85,7 @@ int main(int argc, char **argv) {
         ->capture_default_str();
     encode->footer(
         "Each line is one JSON object shaped like those of `kovrel decode --format json`: \"cat\", \"uap\" (a "
-        "profile name; default standard), and \"items\", \"fields\" (CAT001, 002, 034, 048) or both. \"items\" lists objects "
+        "profile name; default standard, for CAT021 cat021_ver21), and \"items\", \"fields\" (CAT001, 002, 021, 034, 048) or both. \"items\" lists objects "
         "{\"id\": \"I048/040\", \"fields\": {...}} or {\"id\": ..., \"hex\": \"0c 80 20 00\"}: an item the library "
         "encodes is built from its fields, each set by its dotted path (a nested object is a group) from numbers, "
         "booleans and texts, Mode 3/A codes and addresses from octal or hexadecimal digits, null leaving the "
@@ -97,6 +97,8 @@ int main(int argc, char **argv) {
         "CAT001: sac, sic, msgtype (Plot or Track: I001/020, written without items), track, rho with theta, "
         "mode3a, fl, tod (I001/141, the low 16 bits), speed with heading; use uap cat001_plot for plots. CAT002 "
         "and CAT034: sac, sic, msgtype (North or Sector; both required without items), tod, sector (degrees). "
+        "CAT021, in the line's edition: sac, sic, tod, track, mode3a, fl, sel_alt, icao, callsign, lat with lon, "
+        "speed with heading, vrate (see the README for the items of each edition). "
         "Values are rounded to the nearest step of their item; an item in items wins over the same item from "
         "fields. Consecutive records of a category share a block; the blocks are written back to back. Bad lines "
         "are reported on standard error with their line number, item and field (\"in.jsonl:3: I048/010.sac: value "
