@@ -34,4 +34,12 @@ void exercise_record_240(const AstDataRecord &record);
 // past the end, re-decoded; every accessor asked.
 void exercise_record_021(const AstDataRecord &record);
 
+// Safety-net and status records (records_status.cpp): disassembled, every
+// accessor asked, compound items split, encoders written into exact and
+// short buffers.
+void exercise_record_004(const AstDataRecord &record);
+void exercise_record_023(const AstDataRecord &record);
+void exercise_record_063(const AstDataRecord &record);
+void exercise_record_065(const AstDataRecord &record);
+
 }  // namespace fuzzing

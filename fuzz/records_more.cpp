@@ -5,8 +5,12 @@ namespace fuzzing {
 
 void exercise_record_more(const AstDataRecord &record) {
     switch (record.category) {
+    case 4: exercise_record_004(record); break;
     case 21: exercise_record_021(record); break;
+    case 23: exercise_record_023(record); break;
     case 62: exercise_record_062(record); break;
+    case 63: exercise_record_063(record); break;
+    case 65: exercise_record_065(record); break;
     case 240: exercise_record_240(record); break;
     default: break;
     }

@@ -8,7 +8,9 @@
 #define KOVREL_CAT063_H
 
 #include "kovrel/dataitem.h"
+#include "kovrel/datarecord.h"
 #include "kovrel/export.h"
+#include "kovrel/items_ident.h"
 
 KOVREL_BEGIN_DECLS
 
@@ -55,6 +57,68 @@ KOVREL_API void ast_dataitem_063_REF_decode_ex(AstDataItemValue *out, void *stor
                                                const AstDataItem *item);
 KOVREL_API void ast_dataitem_063_SPF_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
                                                const AstDataItem *item);
+
+/**
+ * I063/060 Sensor Configuration and Status. Octet 1: CON (bits 8-7: 0
+ * operational, 1 degraded, 2 initialisation, 3 not connected), then one
+ * NOGO flag each for the PSR, SSR, Mode S, ADS and MLT parts of the sensor.
+ * Octet 2, when sent: OPS (1: not released for operational use), ODP (data
+ * processor overloaded), OXT (transmission subsystem overloaded), MSC
+ * (monitoring system connected), TSV (time source invalid), NPW (no plot
+ * being received). Octets after the second are delimited, not read.
+ * Named fields (fields.h): con, psr, ssr, mds, ads, mlt, and, when octet 2
+ * was sent, ops, odp, oxt, msc, tsv, npw.
+ */
+typedef struct AstItem063_060 {
+    uint32_t valid;
+    uint32_t con;
+    uint8_t psr, ssr, mds, ads, mlt;
+    uint8_t ops, odp, oxt, msc, tsv, npw; /**< 0 when octet 2 is absent */
+    uint8_t fx;                           /**< 1: octet 2 (and maybe more) was sent */
+} AstItem063_060;
+
+/** Defaults: all 0. */
+KOVREL_API void ast_dataitem_063_060_init(AstItem063_060 *out);
+/** Decodes a valid I063/060 span of one or more octets; the defaults for any other span. */
+KOVREL_API void ast_dataitem_063_060_decode(AstItem063_060 *out, const AstDataItem *item);
+/**
+ * "CON:OPE", "CON:DGD", "STS:INI" or "CON:DIS" (the third is spelled with
+ * STS, as consumers expect), then " ODP", " OXT", " TSV" for the set flags of
+ * octet 2.
+ */
+KOVREL_API void ast_dataitem_063_060_get_summary(char *buffer, size_t size, const AstDataItem *item);
+/**
+ * Table "Bit", "Item", "Value", bits counted from 0: "Bit[0-1]" CON
+ * ("OPERATIONAL", "DEGRADED", "INITLIZATION", "NOT_CONNECTED"), "Bit[2]" to
+ * "Bit[6]" PSR, SSR, MDS, ADS, MLT ("NOGO" or "GO"), "Bit[7]" FX (0 or 1),
+ * and with octet 2 "Bit[8]" to "Bit[13]" OPS, ODP, OXT, MSC, TSV, NPW
+ * ("YES" or "NO").
+ */
+KOVREL_API void ast_dataitem_063_060_get_detail_html(char *buffer, size_t size, const AstDataItem *item);
+KOVREL_API void ast_dataitem_063_060_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
+                                               const AstDataItem *item);
+
+/**
+ * A CAT063 record disassembled: one member per decoded item; a member whose
+ * item is absent stays zero. The bias items (I063/070 to 092), REF and SPF
+ * have no member and are skipped with "Failed to disassemble dataitem : %s."
+ * at WARNING.
+ */
+typedef struct AstRecord063 {
+    uint32_t valid;
+    AstDataSourceIdentifier i010;
+    AstServiceId i015;
+    AstTimeOfDay i030;
+    AstDataSourceIdentifier i050;
+    AstItem063_060 i060;
+} AstRecord063;
+
+/** Clears *out; valid for a valid CAT063 record, each item decoded into its member. */
+KOVREL_API void ast_datarecord_063_disassemble(AstRecord063 *out, const AstDataRecord *record);
+
+/* Record accessors: the first I063/010 and the first I063/030 of the record. */
+KOVREL_API void ast_datarecord_063_get_sacsic(AstDataSourceIdentifier *out, const AstDataRecord *record);
+KOVREL_API void ast_datarecord_063_get_timeofday(AstTimeOfDay *out, const AstDataRecord *record);
 
 KOVREL_END_DECLS
 

@@ -11,10 +11,14 @@ const AstDataRecordFuncs *find_record_funcs(uint32_t category);
 // Accessor tables, one per category folder.
 extern const AstDataRecordFuncs kRecordFuncs001;
 extern const AstDataRecordFuncs kRecordFuncs002;
+extern const AstDataRecordFuncs kRecordFuncs004;
 extern const AstDataRecordFuncs kRecordFuncs021;
+extern const AstDataRecordFuncs kRecordFuncs023;
 extern const AstDataRecordFuncs kRecordFuncs034;
 extern const AstDataRecordFuncs kRecordFuncs048;
 extern const AstDataRecordFuncs kRecordFuncs062;
+extern const AstDataRecordFuncs kRecordFuncs063;
+extern const AstDataRecordFuncs kRecordFuncs065;
 extern const AstDataRecordFuncs kRecordFuncs240;
 
 }  // namespace kovrel

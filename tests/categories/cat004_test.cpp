@@ -220,7 +220,7 @@ TEST(Cat004, UnnamedUapItemsAreSized) {
 TEST(Cat004, CommonItemsServeTheirRows) {
     LogCapture log;
     const Octets first = {0xF1, 0x23};
-    expect_row(4000, {0x07}, nullptr, kCodec);  // the category summarises the message type
+    expect_row(4000, {0x07}, "MSG_TYPE:STCA", kShown | kCodec);  // the category's own views
     expect_row(4010, {0x12, 0x34}, "SAC:018 SIC:052", kShown | kCodec);
     expect_row(4020, {0x54, 0x60, 0x00}, "TOD:12:00:00.000", kShown | kCodec);
     expect_row(4030, first, "TRACK_NUM:61731", kDecodeSummary | kCodec);  // all 16 bits

@@ -13,6 +13,9 @@
 #include "support/served.h"
 
 using kovrel_test::expect_row;
+using kovrel_test::kCodec;
+using kovrel_test::kDecodeSummary;
+using kovrel_test::kShown;
 using kovrel_test::LogCapture;
 using kovrel_test::Octets;
 using kovrel_test::Scanned;
@@ -116,11 +119,12 @@ TEST(Cat023, WholeRecordScansBackToBack) {
 
 TEST(Cat023, CommonItemsServeTheirRows) {
     LogCapture log;
-    // Shown through the common items, without structured decode or encode.
-    const uint32_t shown = AST_DATAITEM_CAP_SUMMARY | AST_DATAITEM_CAP_DETAIL;
-    expect_row(23010, {0x19, 0x0C}, "SAC:025 SIC:012", shown);
-    expect_row(23070, {0xA8, 0xBF, 0xFF}, "TOD:23:59:59.992", shown);
-    expect_row(23998, {0x02, 0xAA}, "RESERVED_EXPANSION", AST_DATAITEM_CAP_SUMMARY);
-    expect_row(23999, {0x01}, "SPECIAL_PURPOSE", AST_DATAITEM_CAP_SUMMARY);
+    // Shown, read and written through the common items; the report type
+    // is summarised by the category.
+    expect_row(23010, {0x19, 0x0C}, "SAC:025 SIC:012", kShown | kCodec);
+    expect_row(23070, {0xA8, 0xBF, 0xFF}, "TOD:23:59:59.992", kShown | kCodec);
+    expect_row(23000, {0x02}, "RPT_TYPE:SERVICE_STATUS", AST_DATAITEM_CAP_SUMMARY | kCodec);
+    expect_row(23998, {0x02, 0xAA}, "RESERVED_EXPANSION", kDecodeSummary);
+    expect_row(23999, {0x01}, "SPECIAL_PURPOSE", kDecodeSummary);
     EXPECT_EQ(log.size(), 0u);
 }

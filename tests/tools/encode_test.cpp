@@ -409,6 +409,19 @@ struct ItemObjects {
     size_t by_fields = 0;
 };
 
+// Arrays cannot be set by name: an item holding one goes by its octets.
+bool without_arrays(const AstDataItem &item) {
+    bool arrays = false;
+    ast_dataitem_walk_fields(
+        &item,
+        [](void *context, const AstField *f) {
+            if (f->kind == AST_FIELD_ARRAY_BEGIN) *static_cast<bool *>(context) = true;
+            return 1;
+        },
+        &arrays);
+    return !arrays;
+}
+
 ItemObjects item_objects(const AstDataRecord &record, bool fields_allowed) {
     ItemObjects out;
     for (uint64_t i = 0; i < record.item_count; ++i) {
@@ -424,7 +437,7 @@ ItemObjects item_objects(const AstDataRecord &record, bool fields_allowed) {
         }
         fields.resize(need);
         const bool encodable = (ast_dataitem_get_capabilities(item.id) & AST_DATAITEM_CAP_ENCODE) != 0;
-        if (fields_allowed && encodable && need > 0 && encoder_reproduces(item)) {
+        if (fields_allowed && encodable && need > 0 && encoder_reproduces(item) && without_arrays(item)) {
             object["fields"] = json::parse(fields);
             ++out.by_fields;
         } else {

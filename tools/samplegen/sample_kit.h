@@ -254,5 +254,6 @@ void old_radar(std::vector<Datagram> &out);
 void tracker(std::vector<Datagram> &out);
 void adsb(std::vector<Datagram> &out);
 void radar_video(std::vector<Datagram> &out);
+void safety_and_status(std::vector<Datagram> &out);
 
 }  // namespace samplegen

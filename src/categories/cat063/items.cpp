@@ -1,5 +1,6 @@
 // CAT063 dispatch rows: size rule and name of every item, and the common
 // items that serve some of them.
+#include "categories/cat063/status.h"
 #include "kovrel/cat063.h"
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
@@ -11,8 +12,6 @@ namespace kovrel {
 namespace {
 
 using namespace views;
-
-// Detail slot of the items without a view of their own.
 
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
@@ -28,7 +27,8 @@ constexpr ItemRow kRows[] = {
      ast_dataitem_data_source_identifier_get_detail_html, ast_dataitem_063_050_encode_ex,
      ast_dataitem_063_050_decode_ex, &fields::kDataSourceIdentifier},
     // Later editions add octets to the chain; they are delimited, not read.
-    {60, "Sensor Configuration and Status", ast_dataitem_get_size_var_unlimited},
+    {60, "Sensor Configuration and Status", ast_dataitem_get_size_var_unlimited, ast_dataitem_063_060_get_summary,
+     ast_dataitem_063_060_get_detail_html, nullptr, ast_dataitem_063_060_decode_ex, &fields::k063_060},
     {70, "Time Stamping Bias", ast_dataitem_get_size_fixed_2_byte},
     // Range gain and range bias, 16 bits each.
     {80, "SSR/Mode S Range Gain and Bias", ast_dataitem_get_size_fixed_4_byte},

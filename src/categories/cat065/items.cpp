@@ -1,5 +1,6 @@
 // CAT065 dispatch rows: size rule and name of every item, and the common
 // items that serve some of them.
+#include "categories/cat065/status.h"
 #include "kovrel/cat065.h"
 #include "kovrel/items_ident.h"
 #include "kovrel/items_mode.h"
@@ -12,23 +13,23 @@ namespace {
 
 using namespace views;
 
-// Detail slot of the items without a view of their own.
-
 constexpr ItemRow kRows[] = {
     {10, "Data Source Identifier", ast_dataitem_get_size_fixed_2_byte,
      ast_dataitem_data_source_identifier_get_summary, ast_dataitem_data_source_identifier_get_detail_html,
      ast_dataitem_065_010_encode_ex, ast_dataitem_065_010_decode_ex, &fields::kDataSourceIdentifier},
     // Read and written as the common message type, summarised by the category.
-    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail, ast_dataitem_065_000_encode_ex,
+    {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_065_000_get_summary, kNoDetail, ast_dataitem_065_000_encode_ex,
      ast_dataitem_065_000_decode_ex, &fields::kMessageType},
     {15, "Service Identification", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_service_id_get_summary,
      kNoDetail, ast_dataitem_065_015_encode_ex, ast_dataitem_065_015_decode_ex, &fields::kServiceId},
     {30, "Time of Day", ast_dataitem_get_size_fixed_3_byte, ast_dataitem_time_of_day_get_summary,
      ast_dataitem_time_of_day_get_detail_html, ast_dataitem_065_030_encode_ex, ast_dataitem_065_030_decode_ex,
      &fields::kTimeOfDay},
-    {20, "Batch Number", ast_dataitem_get_size_fixed_1_byte},
+    {20, "Batch Number", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_065_020_get_summary, kNoDetail, nullptr,
+     ast_dataitem_065_020_decode_ex, &fields::k065_020},
     // NOGO, OVL, TSV and PSS packed into one octet.
-    {40, "SDPS Configuration and Status", ast_dataitem_get_size_fixed_1_byte},
+    {40, "SDPS Configuration and Status", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_065_040_get_summary,
+     ast_dataitem_065_040_get_detail_html, nullptr, ast_dataitem_065_040_decode_ex, &fields::k065_040},
     {50, "Service Status Report", ast_dataitem_get_size_fixed_1_byte},
     {998, "Reserved Expansion Field", ast_dataitem_reserved_expansion_field_get_size,
      ast_dataitem_reserved_expansion_field_get_summary, kNoDetail, nullptr, ast_dataitem_065_REF_decode_ex,
