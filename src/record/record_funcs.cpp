@@ -9,6 +9,12 @@ const AstDataRecordFuncs *find_record_funcs(uint32_t category) {
         case 1: return &kRecordFuncs001;
         case 2: return &kRecordFuncs002;
         case 4: return &kRecordFuncs004;
+        case 10: return &kRecordFuncs010;
+        case 8: return &kRecordFuncs008;
+        case 15: return &kRecordFuncs015;
+        case 16: return &kRecordFuncs016;
+        case 19: return &kRecordFuncs019;
+        case 20: return &kRecordFuncs020;
         case 21: return &kRecordFuncs021;
         case 23: return &kRecordFuncs023;
         case 34: return &kRecordFuncs034;

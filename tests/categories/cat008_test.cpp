@@ -1,8 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
 #include <vector>
 
+#include "categories/packed_items.h"
 #include "kovrel/cat008.h"
+#include "kovrel/datarecord.h"
+#include "kovrel/enums.h"
 #include "kovrel/core.h"
 #include "kovrel/dataitem.h"
 #include "kovrel/uap.h"
@@ -105,4 +110,169 @@ TEST(Cat008, RecordScansBackToBack) {
     };
     ASSERT_EQ(ast_uap_max_frn(&AST_UAP_STANDARD, 8), items.size());
     kovrel_test::expect_frn_items(8, items);
+}
+
+// ---- The category's own items ----------------------------------------------
+
+using kovrel_test::expect_items;
+using kovrel_test::Wire;
+
+// Ranges and coordinates at 1/64 NM (scaling factor 0), azimuths at
+// 360/2^16 degrees.
+TEST(Cat008Items, DecodeShowAndWriteBack) {
+    expect_items({
+        {8020, {0x5C}, "ORG:LOCAL I:5 S:6", R"({"org":0,"i":5,"s":6})"},
+        {8020, {0xA5, 0x06}, "ORG:SYSTEM I:2 S:2 TST ER", R"({"org":1,"i":2,"s":2,"tst":1,"er":1})"},
+        {8020, {0x01, 0x00}, "ORG:LOCAL I:0 S:0", R"({"org":0,"i":0,"s":0,"tst":0,"er":0})"},
+        {8034, {0x01, 0x40, 0x80, 0x20, 0x00}, "REP:1 STR:1.000 ENDR:2.000 AZ:45.0000",
+         R"({"vectors":[{"str":1,"endr":2,"az":45}]})"},
+        {8036, {0x02, 0xC0, 0x40, 0x10, 0x7F, 0x80, 0xFF},
+         "REP:2 X:-1.000 Y:1.000 LENGTH:0.250 X:1.984 Y:-2.000 LENGTH:3.984",
+         R"({"vectors":[{"x":-1,"y":1,"length":0.25},{"x":1.984375,"y":-2,"length":3.984375}]})"},
+        {8038, {0x01, 0x00, 0x00, 0x40, 0xC0}, "REP:1 X1:0.000 Y1:0.000 X2:1.000 Y2:-1.000",
+         R"({"vectors":[{"x1":0,"y1":0,"x2":1,"y2":-1}]})"},
+        {8040, {0xA2, 0x0C}, "ORG:SYSTEM I:2 FSTLST:FIRST CSN:12", R"({"org":1,"i":2,"fstlst":2,"csn":12})"},
+        {8040, {0x73, 0xFF}, "ORG:LOCAL I:7 FSTLST:ONLY CSN:255", R"({"org":0,"i":7,"fstlst":3,"csn":255})"},
+        {8050, {0x02, 0x20, 0xE0, 0xF0, 0x10}, "REP:2 X1:0.500 Y1:-0.500 X1:-0.250 Y1:0.250",
+         R"({"points":[{"x1":0.5,"y1":-0.5},{"x1":-0.25,"y1":0.25}]})"},
+        {8100, {0xF0, 0x04, 0xD2}, "F:-2 R:0 Q:617", R"({"f":-2,"r":0,"q":617})"},
+        {8100, {0x7F, 0xFF, 0xFE}, "F:15 R:7 Q:32767", R"({"f":15,"r":7,"q":32767})"},
+        {8110, {0x03, 0x05, 0xFE}, "STATUS:01 02 7F", R"({"status":[1,2,127]})"},
+        {8110, {0x00}, "STATUS:00", R"({"status":[0]})"},
+        {8120, {0x01, 0x2C}, "TOTAL:300", R"({"total":300})"},
+    });
+}
+
+TEST(Cat008Items, PictureScaleAndBadSpans) {
+    // The coordinates scale by 2^f of the start-of-picture processing status.
+    AstItem008_100 status;
+    const Wire f = {0xF0, 0x04, 0xD2};
+    const AstDataItem item{f.data(), f.size(), 8100, 1};
+    ast_dataitem_008_100_decode(&status, &item);
+    ASSERT_EQ(status.valid, 1u);
+    EXPECT_DOUBLE_EQ(ast_dataitem_008_vector_lsb(&status), 1.0 / 256.0);
+    status.f = 3;
+    EXPECT_DOUBLE_EQ(ast_dataitem_008_vector_lsb(&status), 1.0 / 8.0);
+    EXPECT_DOUBLE_EQ(ast_dataitem_008_vector_lsb(nullptr), 1.0 / 64.0);
+    status.valid = 0;
+    EXPECT_DOUBLE_EQ(ast_dataitem_008_vector_lsb(&status), 1.0 / 64.0);
+
+    // The LSBs stand in the structure, whatever the wire.
+    AstItem008_034 polar;
+    ast_dataitem_008_034_init(&polar);
+    EXPECT_DOUBLE_EQ(polar.range_lsb, 1.0 / 64.0);
+    EXPECT_DOUBLE_EQ(polar.az_lsb, 360.0 / 65536.0);
+
+    // An FX bit set after the three octets: read to the end, written clear.
+    EXPECT_EQ(kovrel_test::summary_of(8100, {0xF0, 0x04, 0xD3}), "F:-2 R:0 Q:617");
+    EXPECT_EQ(kovrel_test::through_structure(8100, {0xF0, 0x04, 0xD3}), f);
+    const struct {
+        AstItemId id;
+        Wire wire;
+    } bad[] = {
+        {8110, {0x03}},                           // the last word announces another
+        {8110, {0x02, 0x04}},                     // a word that nobody announced
+        {8034, {0x02, 0x40, 0x80, 0x20, 0x00}},   // two vectors announced, one there
+        {8050, {0x01, 0x20}},                     // a point cut short
+        {8020, {0x5D}},                           // FX with nothing after it
+        {8040, {0xA2}},
+    };
+    for (const auto &b : bad) {
+        EXPECT_EQ(kovrel_test::summary_of(b.id, b.wire), "") << b.id;
+        EXPECT_TRUE(kovrel_test::through_structure(b.id, b.wire).empty()) << b.id;
+    }
+    Wire words(AST_ITEM008_110_MAX + 1, 0x01);
+    words.back() = 0x00;
+    EXPECT_EQ(kovrel_test::summary_of(8110, words), "");
+    words.erase(words.begin());
+    EXPECT_EQ(kovrel_test::through_structure(8110, words), words);
+
+    // Encoders refuse values their bits cannot hold.
+    uint8_t buf[16];
+    AstDataItem out;
+    AstItem008_040 contour{};
+    contour.valid = 1;
+    contour.i = 8;
+    ast_dataitem_008_040_encode(&out, buf, sizeof buf, &contour);
+    EXPECT_EQ(out.valid, 0);
+    auto cart = std::make_unique<AstItem008_036>();
+    ast_dataitem_008_036_init(cart.get());
+    cart->valid = 1;
+    cart->rep = 1;
+    cart->vectors[0].x = -129;
+    ast_dataitem_008_036_encode(&out, buf, sizeof buf, cart.get());
+    EXPECT_EQ(out.valid, 0);
+    cart->vectors[0].x = -128;
+    ast_dataitem_008_036_encode(&out, buf, 3, cart.get());
+    EXPECT_EQ(out.valid, 0);  // one short
+    ast_dataitem_008_036_encode(&out, buf, 4, cart.get());
+    ASSERT_EQ(out.valid, 1);
+    EXPECT_EQ(Wire(buf, buf + 4), Wire({0x01, 0x80, 0x00, 0x00}));
+    AstItem008_110 station{};
+    station.valid = 1;
+    ast_dataitem_008_110_encode(&out, buf, sizeof buf, &station);
+    EXPECT_EQ(out.valid, 0);  // no word
+    station.count = 1;
+    station.status[0] = 0x80;
+    ast_dataitem_008_110_encode(&out, buf, sizeof buf, &station);
+    EXPECT_EQ(out.valid, 0);  // eight bits
+
+    const std::string d = kovrel_test::detail_of(8034, {0x01, 0x40, 0x80, 0x20, 0x00});
+    EXPECT_NE(d.find("<td>#1 Bit[16-31]</td><td>AZ LSB=DEG</td><td>45.0000</td>"), std::string::npos) << d;
+    const std::string q = kovrel_test::detail_of(8020, {0x5C});
+    EXPECT_EQ(q.find("TST"), std::string::npos) << q;  // the second octet is absent
+}
+
+TEST(Cat008Record, DisassembleAssembleAndAccessors) {
+    const Wire wire = {0xFF, 0xF8,                    // FRNs 1-12
+                       0x00, 0x08,                    // I008/010
+                       0x02,                          // Cartesian vectors
+                       0xA5, 0x06,                    // I008/020
+                       0x01, 0xC0, 0x40, 0x10,        // I008/036
+                       0x01, 0x40, 0x80, 0x20, 0x00,  // I008/034
+                       0xA2, 0x0C,                    // I008/040
+                       0x01, 0x20, 0xE0,              // I008/050
+                       0x00, 0x96, 0x00,              // I008/090
+                       0xF0, 0x04, 0xD2,              // I008/100
+                       0x03, 0x04,                    // I008/110
+                       0x01, 0x2C,                    // I008/120
+                       0x01, 0x00, 0x00, 0x40, 0xC0}; // I008/038
+    AstDataRecord record;
+    ast_datarecord_decode(&record, wire.data(), wire.size(), 8, &AST_UAP_STANDARD);
+    ASSERT_EQ(record.valid, 1);
+    ASSERT_EQ(record.item_count, 12u);
+    auto d = std::make_unique<AstRecord008>();
+    ast_datarecord_008_disassemble(d.get(), &record);
+    ASSERT_EQ(d->valid, 1u);
+    EXPECT_EQ(d->i036.vectors[0].x, -64);
+    EXPECT_EQ(d->i038.vectors[0].y2, -64);
+    EXPECT_EQ(d->i100.f, -2);
+    EXPECT_EQ(d->i110.count, 2u);
+    Wire out(wire.size() + 8, 0);
+    AstDataRecord written;
+    ast_datarecord_008_assemble(&written, out.data(), out.size(), d.get(), &AST_UAP_STANDARD);
+    ASSERT_EQ(written.valid, 1);
+    EXPECT_EQ(Wire(out.begin(), out.begin() + static_cast<std::ptrdiff_t>(written.length)), wire);
+
+    AstDataSourceIdentifier sid;
+    ast_datarecord_get_sacsic(&sid, &record);
+    EXPECT_EQ(sid.sic, 8u);
+    AstTimeOfDay tod;
+    ast_datarecord_get_timeofday(&tod, &record);
+    EXPECT_EQ(tod.raw, 38400u);
+    AstRecordMsgType mt;
+    ast_datarecord_get_msgtype(&mt, &record);
+    EXPECT_STREQ(ast_msgtype_to_str(mt.value), "Video");
+    const struct {
+        uint8_t type;
+        uint32_t valid;
+        const char *name;
+    } types[] = {{1, 1, "Video"}, {4, 1, "Video"}, {254, 1, "North"}, {255, 1, "North"}, {5, 0, "Unknown"}, {0, 0, "Unknown"}};
+    for (const auto &t : types) {
+        const Wire m = {0x40, t.type};
+        ast_datarecord_decode(&record, m.data(), m.size(), 8, &AST_UAP_STANDARD);
+        ast_datarecord_get_msgtype(&mt, &record);
+        EXPECT_EQ(mt.valid, t.valid) << int(t.type);
+        EXPECT_STREQ(ast_msgtype_to_str(mt.value), t.name) << int(t.type);
+    }
 }

@@ -452,7 +452,7 @@ TEST(ItemFields, EncodersWriteTheWireFromNamedValues) {
             }
         }
     }
-    EXPECT_EQ(tripped, 26u);
+    EXPECT_EQ(tripped, 28u);
 }
 
 }  // namespace

@@ -253,7 +253,9 @@ void mode_s_radar(std::vector<Datagram> &out);
 void old_radar(std::vector<Datagram> &out);
 void tracker(std::vector<Datagram> &out);
 void adsb(std::vector<Datagram> &out);
+void mlat(std::vector<Datagram> &out);
 void radar_video(std::vector<Datagram> &out);
 void safety_and_status(std::vector<Datagram> &out);
+void weather_and_status(std::vector<Datagram> &out);
 
 }  // namespace samplegen

@@ -142,8 +142,10 @@ int main(int argc, char **argv) {
     old_radar(datagrams);
     tracker(datagrams);
     adsb(datagrams);
+    mlat(datagrams);
     radar_video(datagrams);
     safety_and_status(datagrams);
+    weather_and_status(datagrams);
     const Octets capture = pcap(datagrams);
     const std::string source = as_cpp(capture);
     if (!write_file(argv[1], capture.data(), capture.size()) || !write_file(argv[2], source.data(), source.size())) {

@@ -5,6 +5,7 @@
 #include "kovrel/cat008.h"
 #include "kovrel/core.h"
 #include "kovrel/items.h"
+#include "categories/cat008/item_fields.h"
 #include "items/common_views.h"
 #include "items/item_fields.h"
 #include "record/item_table.h"
@@ -34,21 +35,39 @@ constexpr ItemRow kRows[] = {
     // The message type has no text of its own.
     {0, "Message Type", ast_dataitem_get_size_fixed_1_byte, nullptr, kNoDetail, ast_dataitem_008_000_encode_ex,
      ast_dataitem_008_000_decode_ex, &fields::kMessageType},
-    {20, "Vector Qualifier", ast_dataitem_get_size_var_2_byte},
+    {20, "Vector Qualifier", ast_dataitem_get_size_var_2_byte, ast_dataitem_008_020_get_summary,
+     ast_dataitem_008_020_get_detail_html, ast_dataitem_008_020_encode_ex, ast_dataitem_008_020_decode_ex,
+     &fields::k008_020},
     // X, Y and length: one octet each.
-    {36, "Sequence of Cartesian Vectors in SPF Notation", ast_dataitem_get_size_rep_3_byte},
+    {36, "Sequence of Cartesian Vectors in SPF Notation", ast_dataitem_get_size_rep_3_byte, ast_dataitem_008_036_get_summary,
+     ast_dataitem_008_036_get_detail_html, ast_dataitem_008_036_encode_ex, ast_dataitem_008_036_decode_ex,
+     &fields::k008_036},
     // Start range, end range (one octet each) and a two-octet azimuth.
-    {34, "Sequence of Polar Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte},
-    {40, "Contour Identifier", ast_dataitem_get_size_fixed_2_byte},
-    {50, "Sequence of Contour Points in SPF Notation", ast_dataitem_get_size_rep_2_byte},
+    {34, "Sequence of Polar Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte, ast_dataitem_008_034_get_summary,
+     ast_dataitem_008_034_get_detail_html, ast_dataitem_008_034_encode_ex, ast_dataitem_008_034_decode_ex,
+     &fields::k008_034},
+    {40, "Contour Identifier", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_008_040_get_summary,
+     ast_dataitem_008_040_get_detail_html, ast_dataitem_008_040_encode_ex, ast_dataitem_008_040_decode_ex,
+     &fields::k008_040},
+    {50, "Sequence of Contour Points in SPF Notation", ast_dataitem_get_size_rep_2_byte, ast_dataitem_008_050_get_summary,
+     ast_dataitem_008_050_get_detail_html, ast_dataitem_008_050_encode_ex, ast_dataitem_008_050_decode_ex,
+     &fields::k008_050},
     {90, "Time of Day", ast_dataitem_get_size_fixed_3_byte, kTimeSummary, kTimeDetail, ast_dataitem_008_090_encode_ex,
      ast_dataitem_008_090_decode_ex, &fields::kTimeOfDay},
-    {100, "Processing Status", ast_dataitem_008_100_get_size},
+    {100, "Processing Status", ast_dataitem_008_100_get_size, ast_dataitem_008_100_get_summary,
+     ast_dataitem_008_100_get_detail_html, ast_dataitem_008_100_encode_ex, ast_dataitem_008_100_decode_ex,
+     &fields::k008_100},
     // A chain of seven-bit status words, each octet extended by its FX bit,
     // with no upper bound in the category.
-    {110, "Station Configuration Status", ast_dataitem_get_size_var_unlimited},
-    {120, "Total Number of Items Constituting One Weather Picture", ast_dataitem_get_size_fixed_2_byte},
-    {38, "Sequence of Weather Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte},
+    {110, "Station Configuration Status", ast_dataitem_get_size_var_unlimited, ast_dataitem_008_110_get_summary,
+     ast_dataitem_008_110_get_detail_html, ast_dataitem_008_110_encode_ex, ast_dataitem_008_110_decode_ex,
+     &fields::k008_110},
+    {120, "Total Number of Items Constituting One Weather Picture", ast_dataitem_get_size_fixed_2_byte, ast_dataitem_008_120_get_summary,
+     ast_dataitem_008_120_get_detail_html, ast_dataitem_008_120_encode_ex, ast_dataitem_008_120_decode_ex,
+     &fields::k008_120},
+    {38, "Sequence of Weather Vectors in SPF Notation", ast_dataitem_get_size_rep_4_byte, ast_dataitem_008_038_get_summary,
+     ast_dataitem_008_038_get_detail_html, ast_dataitem_008_038_encode_ex, ast_dataitem_008_038_decode_ex,
+     &fields::k008_038},
     {999, "Special Purpose Field", ast_dataitem_special_purpose_field_get_size,
      ast_dataitem_special_purpose_field_get_summary, kNoDetail, nullptr, ast_dataitem_008_SPF_decode_ex,
      &fields::kExplicitField},

@@ -14,8 +14,7 @@ KOVREL_ENCODE_EX(010_000, AstMessageType, ast_dataitem_message_type_encode)
 KOVREL_DECODE_EX(010_140, AstTimeOfDay, ast_dataitem_time_of_day_decode)
 KOVREL_ENCODE_EX(010_140, AstTimeOfDay, ast_dataitem_time_of_day_encode)
 
-// Decode only: the common encoder writes at 180/2^25 degrees, while this
-// item is read at 180/2^31.
+// Read at 180/2^31 degrees; its encoder (position.cpp) writes at the same LSB.
 KOVREL_DECODE_EX(010_041, AstPositionWgs84, ast_dataitem_position_wgs84_decode)
 
 KOVREL_DECODE_EX(010_060, AstMode3aCode, ast_dataitem_mode_3a_code_decode)

@@ -1,0 +1,43 @@
+// CAT008 record accessors: the source, time and kind of a weather message.
+#include "kovrel/cat008.h"
+#include "kovrel/datarecord.h"
+#include "record/record_access.h"
+#include "record/record_funcs.h"
+
+using namespace kovrel::access;
+
+extern "C" {
+
+KOVREL_API void ast_datarecord_008_get_sacsic(AstDataSourceIdentifier *out, const AstDataRecord *record) {
+    if (!out) return;
+    if (decode_first(out, record, 8010, ast_dataitem_data_source_identifier_decode)) return;
+    out->sac = 0xFFFFFFFFu;
+    out->sic = 0xFFFFFFFFu;
+}
+
+KOVREL_API void ast_datarecord_008_get_timeofday(AstTimeOfDay *out, const AstDataRecord *record) {
+    if (out) decode_first(out, record, 8090, ast_dataitem_time_of_day_decode);
+}
+
+KOVREL_API void ast_datarecord_008_get_msgtype(AstRecordMsgType *out, const AstDataRecord *record) {
+    if (!out) return;
+    AstMessageType type;
+    decode_first(&type, record, 8000, ast_dataitem_message_type_decode);
+    clear(out);
+    if (type.valid != 1) return;
+    if (type.value >= 1 && type.value <= 4) *out = AstRecordMsgType{1, 7};      // vectors and contours: "Video"
+    if (type.value == 254 || type.value == 255) *out = AstRecordMsgType{1, 1};  // start/end of picture: "North"
+}
+
+}  // extern "C"
+
+namespace kovrel {
+
+constinit const AstDataRecordFuncs kRecordFuncs008 = {
+    ast_datarecord_008_get_sacsic,
+    ast_datarecord_008_get_timeofday,
+    ast_datarecord_008_get_msgtype,
+    nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+};
+
+}  // namespace kovrel

@@ -1,0 +1,38 @@
+// Test helpers for the items of CAT008, CAT015, CAT016 and CAT019 read from
+// wire octets: their summary, their named fields as JSON, and the two ways
+// back to the wire (the structure the item dispatch decodes, and the named
+// fields set one by one into a fresh structure).
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "kovrel/kovrel.h"
+
+namespace kovrel_test {
+
+using Wire = std::vector<uint8_t>;
+
+// An item of the wire octets, its summary and its fields as JSON.
+struct ItemCase {
+    AstItemId id;
+    Wire wire;
+    const char *summary;
+    const char *json;
+};
+
+std::string summary_of(AstItemId id, const Wire &wire);
+std::string json_of(AstItemId id, const Wire &wire);
+std::string detail_of(AstItemId id, const Wire &wire);
+// Decoded by the item dispatch and encoded again; empty when either fails.
+Wire through_structure(AstItemId id, const Wire &wire);
+// Walked as named fields, set into a fresh structure and encoded; empty
+// when a field is refused or the encoder fails. Array fields are skipped
+// (they cannot be set one by one).
+Wire through_fields(AstItemId id, const Wire &wire);
+
+// Every case: summary, JSON and, when `encodes`, both ways back to the wire.
+void expect_items(const std::vector<ItemCase> &cases, bool encodes = true);
+
+}  // namespace kovrel_test
