@@ -3,6 +3,7 @@
 #   make test   build and run every test (plain, then ASan+UBSan, exports)
 #   make bench  build and run the benchmarks, then time the kovrel tool on a large recording
 #   make fuzz   build the libFuzzer target with clang and run it for FUZZ_SECONDS (60)
+#   make python build the Python package into $(BUILD)/python (its tests run with make test)
 
 BUILD      ?= build
 ASAN_BUILD ?= build-asan
@@ -12,7 +13,7 @@ FUZZ_SECONDS ?= 60
 JOBS       ?= $(shell nproc 2>/dev/null || echo 2)
 CMAKE_GEN  := -G Ninja
 
-.PHONY: all deps build demo test test-plain test-asan bench fuzz install clean
+.PHONY: all deps build demo test test-plain test-asan bench fuzz install clean python
 
 all: build
 
@@ -31,6 +32,9 @@ demo: build
 	$(BUILD)/tools/kovrel/kovrel decode --stats -o $(BUILD)/sample-decode.txt
 	@echo "every record of the sample: $(BUILD)/sample-decode.txt"
 
+python: deps $(BUILD)/build.ninja
+	cmake --build $(BUILD) -j $(JOBS) --target kovrel_python
+
 test-plain: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)
 
@@ -48,6 +52,7 @@ bench: deps
 	cmake --build $(BENCH_BUILD) -j $(JOBS)
 	$(BENCH_BUILD)/bench/kovrel_bench
 	bench/tool_bench.sh $(BENCH_BUILD)
+	/usr/bin/python3 bench/python_bench.py $(BENCH_BUILD)
 
 fuzz: deps
 	cmake -S . -B $(FUZZ_BUILD) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_C_COMPILER=clang -DCMAKE_CXX_COMPILER=clang++ \

@@ -83,3 +83,13 @@ row "--items" "$(best_of $pin "$kovrel" decode --items "$recording")"
 row "--format json" "$(best_of $pin "$kovrel" decode --format json "$recording")"
 row "--format csv" "$(best_of $pin "$kovrel" decode --format csv "$recording")"
 row "--format csv, 4 item paths more" "$(best_of $pin "$kovrel" decode --columns "$columns,$paths" "$recording")"
+
+# Filtering: one --filter asks one record accessor per record. Against the
+# rows above: counting alone, and text output with a filter that keeps every
+# record (the recording is one sensor) or a few.
+sacsic=$($kovrel decode --stats "$recording" 2>&1 >/dev/null |
+    awk '$1 ~ /^CAT048$/ && $2 ~ /\// { print $2; exit }')
+row "--stats --filter sacsic=$sacsic" "$(best_of $pin "$kovrel" decode --stats --filter "sacsic=$sacsic" "$recording")"
+row "--stats --filter callsign=NONE" "$(best_of $pin "$kovrel" decode --stats --filter callsign=NONE "$recording")"
+row "text --filter sacsic=$sacsic (all kept)" "$(best_of $pin "$kovrel" decode --filter "sacsic=$sacsic" "$recording")"
+row "text --filter mode3a=7700 (few kept)" "$(best_of $pin "$kovrel" decode --filter mode3a=7700 "$recording")"

@@ -19,6 +19,7 @@
 #include "kovrel/items.h"
 #include "kovrel/datarecord.h"
 #include "kovrel/datablock.h"
+#include "kovrel/keyword.h"
 #include "kovrel/cat001.h"
 #include "kovrel/cat002.h"
 #include "kovrel/cat004.h"

@@ -72,6 +72,19 @@ int run_decode(const DecodeOptions &options) {
             return 2;
         }
     }
+    RecordFilter filter;
+    {
+        std::string error;
+        bool ok = true;
+        for (const auto &f : options.filters) ok = ok && filter.add_condition(f, error);
+        for (const auto &c : options.categories) ok = ok && filter.set_categories(c, error);
+        if (ok && !options.time.empty()) ok = filter.set_time_window(options.time, error);
+        if (!ok) {
+            std::fprintf(stderr, "kovrel: %s\n", error.c_str());
+            return 2;
+        }
+    }
+    settings.filter = &filter;
     // Counting alone: --stats with nothing asked of the records, or records
     // thrown away.
     const bool count_only = (options.stats && options.format.empty() && options.columns.empty() && !options.items &&
@@ -145,7 +158,12 @@ int run_decode(const DecodeOptions &options) {
     set_library_log(nullptr);
 
     const Stats &stats = session.stats();
-    if (options.stats) stats.print(stderr, seconds);
+    if (options.stats) {
+        if (format == "json")
+            stats.print_json(stderr, seconds);
+        else
+            stats.print(stderr, seconds);
+    }
     if (stats.unreadable == stats.inputs) {
         if (stats.inputs > 1) std::fprintf(stderr, "kovrel: no input could be read\n");
         return 1;

@@ -25,16 +25,23 @@ struct DecodeOptions {
     bool stats = false;              // counts and throughput on standard error
     std::string output;              // write records here instead of stdout (html: see page_file_name)
     bool log = false;                // library log lines on standard error
+    std::vector<std::string> filters;  // --filter KEYWORD=VALUE, all must match (see filter.h)
+    std::vector<std::string> categories;  // --cat LIST (repeatable; lists add up)
+    std::string time;                // --time FROM-TO, time of day
 };
 
 // `kovrel [decode] [FILE...]`: decodes recordings (pcap, pcapng, raw
 // blocks, hexadecimal text). Exit status 0, or 1 when nothing could be
 // read (no input readable, or no valid block in any of them) or writing
 // failed, 2 for bad options (also: html for several inputs without -o, an
-// unknown CSV column). Records are not formatted at all with --stats and
+// unknown CSV column, a bad --filter, --cat or --time). Records are not formatted at all with --stats and
 // neither a format, --items nor -o, and with -o /dev/null: the inputs are
 // decoded and counted only.
 int run_decode(const DecodeOptions &options);
+
+// `kovrel keywords`: the search keywords with their filter names, their
+// descriptions and the categories whose records can answer each.
+int run_keywords(std::FILE *out);
 
 // Options of `kovrel encode [FILE] [-o OUT]`.
 struct EncodeOptions {

@@ -33,8 +33,29 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                     "cat021_ver21, cat021_ver27, asr10ss, asr10ss_mk2, thales, managair")
         ->capture_default_str();
     app->add_flag("--stats", o.stats,
-                  "counts per category, source, message type and profile, and MB/s, on standard error; alone "
-                  "(no --format, --columns, --items or -o) the records are decoded and counted, not printed");
+                  "counts per category, source (with the earliest and latest time of day), message type and "
+                  "profile, bad blocks grouped by reason, and MB/s, on standard error (with --format json: as one "
+                  "JSON object {\"stats\": {...}} on one line); with a filter, the records that matched and only "
+                  "those per source, type and profile; alone (no --format, --columns, --items or -o) the records "
+                  "are decoded and counted, not printed");
+    app->add_option("--filter", o.filters,
+                    "KEYWORD=VALUE: keep only the records whose value matches (repeatable: all must match). "
+                    "Keywords by name or alias (see kovrel keywords): sacsic=025/013 (or sacsic=25: every SIC of "
+                    "SAC 25), time=12:34:56.789, type=Track (first word of the message type, any case), "
+                    "track=1234, mode3a=7700 (octal), fl=35000 and selalt=24000 (feet), callsign=DLH4AB (any "
+                    "case), icao=4CA1FF, position='48.5, 11.25' (within 1e-6 degree), polar='R:12.5 T:90', "
+                    "speed=450 (kt, within 0.5), heading=T:270 (or M:270; within 0.005 degree), "
+                    "velocity='VX:120 VY:-35' (m/s, within 0.25), vrate=-1200 (ft/min, within 6.25). A record "
+                    "without the value never matches. An unknown keyword or unreadable value exits 2")
+        ->allow_extra_args(false);
+    app->add_option("--cat", o.categories,
+                    "keep only records of these categories: a comma-separated list (48,62); repeatable")
+        ->allow_extra_args(false);
+    app->add_option("--time", o.time,
+                    "FROM-TO: keep only records whose time of day lies in the window, both ends included; each "
+                    "end HH:MM, HH:MM:SS or HH:MM:SS.mmm (12:00-12:30 runs to 12:30:59.999); an end may be left "
+                    "out (12:00-); FROM later than TO wraps past midnight. Records without a time of day are "
+                    "left out");
     app->add_option("-o,--output", o.output,
                     "write the records to FILE instead of standard output (-o /dev/null: records are not "
                     "formatted at all); html with several inputs (needs -o): FILE for the first, then FILE with "
@@ -50,7 +71,8 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
         "and callsign (or Mode 3/A code) when the record has them. Bad blocks are reported on standard error "
         "(and, with html, on the page where they occur) and decoding goes on. CSV cells are quoted as RFC 4180 "
         "says; JSON output is valid JSON whatever the input octets. Exit status 1 when nothing could "
-        "be read or writing failed, 2 for bad options (an unknown CSV column too).");
+        "be read or writing failed, 2 for bad options (an unknown CSV column, a bad --filter, --cat or --time too). "
+        "--filter, --cat and --time keep the records that pass all of them, in every format and in --stats.");
 }
 
 }  // namespace
@@ -65,6 +87,11 @@ int main(int argc, char **argv) {
     app.set_version_flag("--version", std::string("kovrel ") + ast_library_version());
 
     auto *info = app.add_subcommand("info", "library version, revision and build date");
+    auto *keywords = app.add_subcommand(
+        "keywords", "the search keywords of --filter: name, aliases, description and the categories that serve each");
+    keywords->footer(
+        "A category serves a keyword when the library has a record accessor for it in that category; a record of "
+        "that category matches only when it holds the value.");
 
     std::string profile = "standard";
     unsigned category = 0;
@@ -156,5 +183,6 @@ int main(int argc, char **argv) {
     if (*convert) return kovrel_tool::run_convert(convert_options);
     if (*uap) return kovrel_tool::run_uap(stdout, profile, category);
     if (*info) return kovrel_tool::run_info(stdout);
+    if (*keywords) return kovrel_tool::run_keywords(stdout);
     return kovrel_tool::run_decode(decode_options);
 }

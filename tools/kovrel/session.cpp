@@ -34,6 +34,8 @@ bool is_terminal(std::FILE *file) {
 DecodeSession::DecodeSession(const SessionSettings &settings, std::FILE *out, std::FILE *messages)
     : settings_(settings), out_(out), messages_(messages), buffer_(out), formatter_(buffer_),
       terminal_(is_terminal(out)), decoder_(settings.uap) {
+    if (settings_.filter && settings_.filter->empty()) settings_.filter = nullptr;
+    stats_.filtered = settings_.filter != nullptr;
     if (settings_.format == RecordFormat::Csv) {
         csv_ = std::make_unique<CsvWriter>(buffer_, settings_.columns);
         csv_->header();
@@ -251,20 +253,25 @@ bool DecodeSession::decode_chunk(const std::string &name, const Chunk &chunk, bo
         case SliceProblem::ShortHeader:
             message(name, at + ": " + std::to_string(slice.size) + " octets left, too few for a block header");
             stats_.count_unusable(-1, slice.size);
+            stats_.count_reason(std::to_string(slice.size) + " octets left, too few for a block header");
             break;
         case SliceProblem::LengthTooSmall:
             message(name, at + " (" + cat_text(slice.data, slice.size) + "): LEN " + std::to_string(slice.len) +
                               " is below 3");
             stats_.count_unusable(slice.data[0], slice.size);
+            stats_.count_reason("LEN " + std::to_string(slice.len) + " is below 3");
             break;
         case SliceProblem::None:
         case SliceProblem::LengthTooLarge: {
             const BlockOutcome outcome = decoder_.decode(slice.data, slice.size);
-            stats_.count_block(*outcome.block, slice.data[0], slice.size, outcome.valid);
-            if (!outcome.valid)
+            const uint64_t kept = kept_records(*outcome.block);
+            stats_.count_block(*outcome.block, slice.data[0], slice.size, outcome.valid, kept);
+            if (!outcome.valid) {
                 message(name, at + " (" + cat_text(slice.data, slice.size) + ", LEN " + std::to_string(slice.len) +
                                   "): " + outcome.reason);
-            emit(name, number, chunk, slice.where, outcome);
+                stats_.count_reason(outcome.reason);
+            }
+            emit(name, number, chunk, slice.where, outcome, kept);
             break;
         }
         }
@@ -277,8 +284,16 @@ bool DecodeSession::decode_chunk(const std::string &name, const Chunk &chunk, bo
     return !output_failed_;
 }
 
+uint64_t DecodeSession::kept_records(const AstDataBlock &block) const {
+    if (!settings_.filter) return ~uint64_t{0};
+    uint64_t kept = 0;
+    for (uint64_t i = 0; i < block.record_count && i < 64; ++i)
+        if (settings_.filter->matches(block.records[i])) kept |= uint64_t{1} << i;
+    return kept;
+}
+
 void DecodeSession::emit(const std::string &name, uint64_t block, const Chunk &chunk, const Location &where,
-                         const BlockOutcome &outcome) {
+                         const BlockOutcome &outcome, uint64_t kept) {
     const AstDataBlock &b = *outcome.block;
     RecordView view;
     view.input = name;
@@ -306,9 +321,11 @@ void DecodeSession::emit(const std::string &name, uint64_t block, const Chunk &c
         }
         record_written();
     };
+    if (settings_.format == RecordFormat::None && !page_) return;
     for (uint64_t i = 0; i < b.record_count && i < AST_DATABLOCK_MAX_RECORDS; ++i)
-        one(b.records[i], static_cast<size_t>(i) + 1);
-    if (outcome.failed) one(outcome.failed->record, outcome.failed->index + 1);
+        if (i >= 64 || (kept >> i & 1)) one(b.records[i], static_cast<size_t>(i) + 1);
+    if (outcome.failed && (!settings_.filter || settings_.filter->matches(outcome.failed->record)))
+        one(outcome.failed->record, outcome.failed->index + 1);
 }
 
 }  // namespace kovrel_tool

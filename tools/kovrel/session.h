@@ -11,6 +11,7 @@
 #include <kovrel/kovrel.h>
 
 #include "decode.h"
+#include "filter.h"
 #include "input.h"
 #include "out_buffer.h"
 #include "output.h"
@@ -34,6 +35,9 @@ struct SessionSettings {
     RecordFormat format = RecordFormat::Text;
     bool items = false;           // text: one line per item as well
     std::vector<CsvColumn> columns;  // csv
+    // Records that do not pass it are neither written nor counted per
+    // source, type and profile (nullptr or empty: every record is kept).
+    const RecordFilter *filter = nullptr;
 };
 
 // Decodes inputs one after the other, writes the records to `out` and
@@ -88,7 +92,9 @@ private:
     void decode_octets(const std::string &name, InputKind kind, const uint8_t *data, size_t size);
     bool decode_chunk(const std::string &name, const Chunk &chunk, bool whole_input);
     void emit(const std::string &name, uint64_t block, const Chunk &chunk, const Location &where,
-              const BlockOutcome &outcome);
+              const BlockOutcome &outcome, uint64_t kept);
+    // Bit i set when record i of the block passes the filter.
+    uint64_t kept_records(const AstDataBlock &block) const;
     void record_written();
     void check_output();
     void message(const std::string &name, const std::string &text);

@@ -1,10 +1,53 @@
 #include "stats.h"
 
+#include <cctype>
+#include <cstring>
+
+#include <nlohmann/json.hpp>
+
 #include "decode.h"
 
 namespace kovrel_tool {
+namespace {
 
-void Stats::count_block(const AstDataBlock &block, uint32_t category, size_t size, bool valid) {
+// "HH:MM:SS.mmm" of milliseconds of the day.
+std::string clock_text(uint32_t ms) {
+    char text[24];
+    std::snprintf(text, sizeof text, "%02u:%02u:%02u.%03u", ms / 3600000, ms / 60000 % 60, ms / 1000 % 60, ms % 1000);
+    return text;
+}
+
+bool ends_with(const std::string &text, const char *tail) {
+    const size_t n = std::strlen(tail);
+    return text.size() >= n && text.compare(text.size() - n, n, tail) == 0;
+}
+
+// A reason with the numbers of the case written as N. Digits that are part
+// of a word (I048/130, CAT048, cat021_ver23) stay, and so do the limits
+// ("below 3", "more than 64").
+std::string reason_kind(const std::string &reason) {
+    std::string out;
+    for (size_t i = 0; i < reason.size();) {
+        const char c = reason[i];
+        const bool digit = std::isdigit(static_cast<unsigned char>(c));
+        const char before = i ? reason[i - 1] : ' ';
+        if (digit && !std::isalnum(static_cast<unsigned char>(before)) && before != '_' && before != '/' &&
+            !ends_with(out, "below ") && !ends_with(out, "more than ")) {
+            while (i < reason.size() && std::isdigit(static_cast<unsigned char>(reason[i]))) ++i;
+            out += 'N';
+            continue;
+        }
+        out += c;
+        ++i;
+    }
+    return out;
+}
+
+}  // namespace
+
+void Stats::count_reason(const std::string &reason) { ++invalid_reasons[reason_kind(reason)]; }
+
+void Stats::count_block(const AstDataBlock &block, uint32_t category, size_t size, bool valid, uint64_t kept) {
     CategoryCounts &c = categories[category];
     c.octets += size;
     octets += size;
@@ -21,14 +64,22 @@ void Stats::count_block(const AstDataBlock &block, uint32_t category, size_t siz
         ++records;
         c.items += r.item_count;
         items += r.item_count;
+        if (i < 64 && !(kept >> i & 1)) continue;
+        ++matched;
         const char *label = label_(r);
         size_t l = 0;
         while (l < labels_.size() && labels_[l] != label) ++l;
         if (l == labels_.size()) labels_.push_back(label);
         label_counts_.add({static_cast<uint32_t>(l), 0, 0});
         RecordFields &f = fields_;
-        reader_.read(f, r, kAskSource | kAskType);
-        if (f.answered & kAskSource) source_counts_.add({category, f.sac, f.sic});
+        reader_.read(f, r, kAskSource | kAskType | kAskTime);
+        if (f.answered & kAskSource) {
+            const bool has_time = (f.answered & kAskTime) != 0;
+            const uint32_t ms = has_time ? ((f.tod.hour * 60 + f.tod.minute) * 60 + f.tod.second) * 1000 +
+                                               f.tod.millisecond
+                                         : 0;
+            source_counts_.add({category, f.sac, f.sic}, has_time, ms);
+        }
         if (f.answered & kAskType) type_counts_.add({category, f.msgtype, 0});
     }
 }
@@ -41,7 +92,13 @@ std::map<std::string, uint64_t> Stats::profiles() const {
 
 std::map<std::tuple<uint32_t, uint32_t, uint32_t>, uint64_t> Stats::sources() const {
     std::map<std::tuple<uint32_t, uint32_t, uint32_t>, uint64_t> out;
-    for (const auto &[key, n] : source_counts_.counts) out[{key.a, key.b, key.c}] += n;
+    for (const auto &[key, s] : source_counts_.spans) out[{key.a, key.b, key.c}] += s.records;
+    return out;
+}
+
+std::map<std::tuple<uint32_t, uint32_t, uint32_t>, Stats::SourceSpan> Stats::source_spans() const {
+    std::map<std::tuple<uint32_t, uint32_t, uint32_t>, SourceSpan> out;
+    for (const auto &[key, s] : source_counts_.spans) out[{key.a, key.b, key.c}] = s;
     return out;
 }
 
@@ -86,6 +143,7 @@ void Stats::print(std::FILE *out, double seconds) const {
     std::fprintf(out, "  blocks          %llu\n", u(blocks));
     std::fprintf(out, "  invalid blocks  %llu\n", u(invalid));
     std::fprintf(out, "  records         %llu\n", u(records));
+    if (filtered) std::fprintf(out, "  matched         %llu (records that passed the filter)\n", u(matched));
     std::fprintf(out, "  items           %llu\n", u(items));
     std::fprintf(out, "  octets          %llu\n", u(octets));
     const double mb = static_cast<double>(octets) / 1e6;
@@ -100,14 +158,18 @@ void Stats::print(std::FILE *out, double seconds) const {
             std::fprintf(out, "    CAT%03u      %10llu %8llu %8llu %9llu %10llu\n", cat, u(c.blocks), u(c.invalid),
                          u(c.records), u(c.items), u(c.octets));
     }
-    const auto sources = this->sources();
+    const auto sources = source_spans();
     const auto message_types = this->message_types();
     const auto profiles = this->profiles();
     if (!sources.empty()) {
-        std::fprintf(out, "  per source (SAC/SIC)       records\n");
-        for (const auto &[key, n] : sources)
-            std::fprintf(out, "    CAT%03u %03u/%03u         %10llu\n", std::get<0>(key), std::get<1>(key),
-                         std::get<2>(key), u(n));
+        std::fprintf(out, "  per source (SAC/SIC)       records  time of day\n");
+        for (const auto &[key, s] : sources) {
+            std::fprintf(out, "    CAT%03u %03u/%03u         %10llu", std::get<0>(key), std::get<1>(key),
+                         std::get<2>(key), u(s.records));
+            if (s.has_time)
+                std::fprintf(out, "  %s - %s", clock_text(s.first_ms).c_str(), clock_text(s.last_ms).c_str());
+            std::fprintf(out, "\n");
+        }
     }
     if (!message_types.empty()) {
         std::fprintf(out, "  per message type           records\n");
@@ -118,6 +180,56 @@ void Stats::print(std::FILE *out, double seconds) const {
         std::fprintf(out, "  per profile                records\n");
         for (const auto &[name, n] : profiles) std::fprintf(out, "    %-25s %10llu\n", name.c_str(), u(n));
     }
+    if (!invalid_reasons.empty()) {
+        std::fprintf(out, "  invalid blocks by reason    blocks\n");
+        for (const auto &[reason, n] : invalid_reasons) std::fprintf(out, "    %10llu  %s\n", u(n), reason.c_str());
+    }
+}
+
+void Stats::print_json(std::FILE *out, double seconds) const {
+    using json = nlohmann::ordered_json;
+    json j = json::object();
+    j["inputs"] = inputs;
+    j["unreadable"] = unreadable;
+    if (any_capture)
+        j["packets"] = {{"read", capture.packets},         {"udp", capture.udp},
+                        {"other", capture.not_udp},        {"fragments", capture.fragments},
+                        {"truncated", capture.truncated}};
+    j["blocks"] = blocks;
+    j["invalid_blocks"] = invalid;
+    j["records"] = records;
+    if (filtered) j["matched"] = matched;
+    j["items"] = items;
+    j["octets"] = octets;
+    j["seconds"] = seconds;
+    if (seconds > 0) j["mb_per_s"] = static_cast<double>(octets) / 1e6 / seconds;
+    json cats = json::array();
+    for (const auto &[cat, c] : categories)
+        cats.push_back({{"cat", cat}, {"blocks", c.blocks}, {"invalid", c.invalid}, {"records", c.records},
+                        {"items", c.items}, {"octets", c.octets}});
+    j["categories"] = cats;
+    json srcs = json::array();
+    for (const auto &[key, s] : source_spans()) {
+        json o = {{"cat", std::get<0>(key)}, {"sac", std::get<1>(key)}, {"sic", std::get<2>(key)},
+                  {"records", s.records}};
+        if (s.has_time) {
+            o["first"] = clock_text(s.first_ms);
+            o["last"] = clock_text(s.last_ms);
+        }
+        srcs.push_back(o);
+    }
+    j["sources"] = srcs;
+    json types = json::array();
+    for (const auto &[key, n] : message_types()) types.push_back({{"cat", key.first}, {"type", key.second}, {"records", n}});
+    j["message_types"] = types;
+    json profs = json::array();
+    for (const auto &[name, n] : profiles()) profs.push_back({{"profile", name}, {"records", n}});
+    j["profiles"] = profs;
+    json reasons = json::array();
+    for (const auto &[reason, n] : invalid_reasons) reasons.push_back({{"reason", reason}, {"blocks", n}});
+    j["invalid_reasons"] = reasons;
+    const std::string text = json{{"stats", j}}.dump(-1, ' ', false, json::error_handler_t::replace);
+    std::fprintf(out, "%s\n", text.c_str());
 }
 
 }  // namespace kovrel_tool
