@@ -84,9 +84,12 @@ def keywords() -> List[str]:
     return list(_kovrel.keywords())
 
 
-def _check_filter(filter: Optional[str]) -> None:
-    if filter is not None:
-        raise NotImplementedError("keyword filters are not available in this build of kovrel")
+def _apply_filter(reader: "_kovrel.Reader", filter: Union[None, str, Sequence[str]]) -> None:
+    """Keeps the records that match every ``KEYWORD=VALUE`` of ``filter``."""
+    if filter is None:
+        return
+    for text in [filter] if isinstance(filter, str) else filter:
+        reader.add_filter(text)
 
 
 def _open(source: Source, uap: str) -> "_kovrel.Reader":
@@ -120,7 +123,7 @@ def _warn(reader: "_kovrel.Reader") -> None:
         _warnings.warn(message, DecodeWarning, stacklevel=3)
 
 
-def decode(source: Source, uap: str = "auto", filter: Optional[str] = None,
+def decode(source: Source, uap: str = "auto", filter: Union[None, str, Sequence[str]] = None,
            batch: int = 512) -> Iterator[Dict[str, Any]]:
     """Yields the records of a recording as dicts.
 
@@ -138,9 +141,15 @@ def decode(source: Source, uap: str = "auto", filter: Optional[str] = None,
     released; memory stays bounded whatever the input's size. Bad blocks are
     reported as ``DecodeWarning`` and decoding goes on; an input that cannot
     be read at all raises ``ValueError``.
+
+    ``filter`` keeps only the records that match: one ``"KEYWORD=VALUE"``
+    text or a list of them, all of which must match, as ``kovrel decode
+    --filter`` takes them (``"callsign=DLH4AB"``, ``"sacsic=025/013"``,
+    ``"mode3a=7700"``; see ``keywords()``). A filter that cannot be read
+    raises ``ValueError`` listing the keywords.
     """
-    _check_filter(filter)
     reader = _open(source, uap)
+    _apply_filter(reader, filter)
     loads = _json.loads
     while True:
         text = reader.next_json(batch)
@@ -166,7 +175,7 @@ def _nanoseconds(np, seconds):
 
 
 def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None, uap: str = "auto",
-                 date: Union[None, str, _datetime.date] = None, filter: Optional[str] = None):
+                 date: Union[None, str, _datetime.date] = None, filter: Union[None, str, Sequence[str]] = None):
     """One row per record, in the columns of ``kovrel decode --format csv``.
 
     ``columns`` names record columns (``block``, ``cat``, ``uap``, ...),
@@ -184,7 +193,6 @@ def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None
     import numpy as np
     import pandas as pd
 
-    _check_filter(filter)
     if columns is None:
         spec = _kovrel.default_columns()
     elif isinstance(columns, str):
@@ -193,6 +201,7 @@ def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None
         spec = ",".join(columns)
     day = _as_date(date)
     reader = _open(source, uap)
+    _apply_filter(reader, filter)
     raw = reader.columns(spec)
     _warn(reader)
     data = {}

@@ -91,6 +91,11 @@ class Reader {
 public:
     explicit Reader(const std::string &uap) : stream_(profile_of(uap)) {}
 
+    void add_filter(const std::string &text) {
+        std::string error;
+        if (!stream_.add_filter(text, error)) throw py::value_error(error);
+    }
+
     void open_path(const std::string &path) {
         std::string error;
         bool ok;
@@ -522,6 +527,7 @@ PYBIND11_MODULE(_kovrel, m) {
 
     py::class_<Reader>(m, "Reader")
         .def(py::init<const std::string &>(), py::arg("uap") = "auto")
+        .def("add_filter", &Reader::add_filter)
         .def("open_path", &Reader::open_path)
         .def("open_fd", &Reader::open_fd)
         .def("open_buffer", &Reader::open_buffer)

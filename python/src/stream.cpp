@@ -303,11 +303,12 @@ bool RecordStream::next_block(RecordSink &sink) {
         view.time = chunk_.time;
         view.block_valid = outcome.valid;
         for (uint64_t i = 0; i < b.record_count && i < AST_DATABLOCK_MAX_RECORDS; ++i) {
+            if (!filter_.empty() && !filter_.matches(b.records[i])) continue;
             view.record = &b.records[i];
             view.number = static_cast<size_t>(i) + 1;
             sink.record(view);
         }
-        if (outcome.failed) {
+        if (outcome.failed && (filter_.empty() || filter_.matches(outcome.failed->record))) {
             view.record = &outcome.failed->record;
             view.number = outcome.failed->index + 1;
             sink.record(view);

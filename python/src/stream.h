@@ -19,6 +19,7 @@
 
 #include "blocks.h"
 #include "decode.h"
+#include "filter.h"
 #include "input.h"
 #include "output.h"
 
@@ -50,6 +51,11 @@ public:
     // Reads octets the caller keeps alive until the stream is closed.
     bool open_memory(const std::string &name, const uint8_t *data, size_t size, std::string &error);
 
+    // Keeps only the records that match (the tool's --filter KEYWORD=VALUE,
+    // all must match). False, with the reason and the keywords in error,
+    // when the text cannot be a filter.
+    bool add_filter(const std::string &text, std::string &error) { return filter_.add_condition(text, error); }
+
     // Decodes the next block and gives its records to sink. False when the
     // input has no block left.
     bool next_block(RecordSink &sink);
@@ -61,6 +67,7 @@ public:
     uint64_t blocks() const { return block_no_; }
 
 private:
+    kovrel_tool::RecordFilter filter_;
     bool open_file(const std::string &name, std::FILE *file, uint64_t position, std::string &error);
     bool open_capture(std::FILE *file, std::string &error);
     void start_octets(kovrel_tool::InputKind kind, const uint8_t *data, size_t size);

@@ -83,8 +83,17 @@ def test_default_columns_and_bad_ones(sample_path):
     assert list(frame.columns)[:6] == ["block", "offset", "cat", "uap", "record", "valid"]
     with pytest.raises(ValueError, match="unknown column 'speeed'"):
         kovrel.to_dataframe(sample_path, columns="cat,speeed")
-    with pytest.raises(NotImplementedError):
+    with pytest.raises(ValueError, match="keywords"):
         kovrel.to_dataframe(sample_path, filter="cat=48")
+
+
+def test_filters_keep_the_matching_rows(sample_path, tool_json):
+    frame = kovrel.to_dataframe(sample_path, columns="cat,sac,sic,callsign", filter=["sacsic=025/001", "type=Track"])
+    expected = [r for r in tool_json if r["fields"].get("sac") == 25 and r["fields"].get("sic") == 1
+                and r["fields"].get("msgtype") == "Track"]
+    assert len(expected) > 0
+    assert len(frame) == len(expected)
+    assert set(frame["sic"]) == {1}
 
 
 def test_empty_input_gives_an_empty_frame():

@@ -106,8 +106,21 @@ def test_errors_are_exceptions(tmp_path):
         list(kovrel.decode(b"", uap="nope"))
     with pytest.raises(TypeError):
         list(kovrel.decode(12))
-    with pytest.raises(NotImplementedError):
-        list(kovrel.decode(b"", filter="callsign=DLH4AB"))
+    with pytest.raises(ValueError, match="keywords"):
+        list(kovrel.decode(b"", filter="colour=red"))
+
+
+def test_filter_keeps_what_the_tool_keeps(sample_path, tool_json):
+    cases = [
+        ("callsign=SWR123", lambda f: f.get("callsign") == "SWR123"),
+        ("mode3a=7000", lambda f: f.get("mode3a") == "7000"),
+        ("sacsic=025/002", lambda f: f.get("sac") == 25 and f.get("sic") == 2),
+    ]
+    for text, holds in cases:
+        kept = list(kovrel.decode(sample_path, filter=text))
+        expected = [r for r in tool_json if holds(r["fields"])]
+        assert len(expected) > 0, text
+        assert [(r["block"], r["record"]) for r in kept] == [(r["block"], r["record"]) for r in expected], text
 
 
 def test_a_profile_can_be_forced():
