@@ -194,15 +194,15 @@ def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None
     import pandas as pd
 
     if columns is None:
-        spec = _kovrel.default_columns()
+        wanted = _kovrel.default_columns()
     elif isinstance(columns, str):
-        spec = columns
+        wanted = columns
     else:
-        spec = ",".join(columns)
+        wanted = ",".join(columns)
     day = _as_date(date)
     reader = _open(source, uap)
     _apply_filter(reader, filter)
-    raw = reader.columns(spec)
+    raw = reader.columns(wanted)
     _warn(reader)
     data = {}
     rows = 0

@@ -142,10 +142,10 @@ public:
     std::vector<std::string> messages() { return stream_.take_messages(); }
 
     // Every record left, as columns: [(name, kind, array, mask-or-categories)].
-    py::list columns(const std::string &spec) {
+    py::list columns(const std::string &wanted) {
         std::vector<kovrel_tool::CsvColumn> parsed;
         std::string error;
-        if (!kovrel_tool::parse_csv_columns(spec, parsed, error)) throw py::value_error(error);
+        if (!kovrel_tool::parse_csv_columns(wanted, parsed, error)) throw py::value_error(error);
         ColumnSink sink(std::move(parsed));
         {
             py::gil_scoped_release release;

@@ -11,9 +11,9 @@ DOCS = os.path.join(os.path.dirname(__file__), "..", "..", "docs")
 
 
 def load(name):
-    spec = importlib.util.spec_from_file_location(name, os.path.join(DOCS, name + ".py"))
-    module = importlib.util.module_from_spec(spec)
-    spec.loader.exec_module(module)
+    found = importlib.util.spec_from_file_location(name, os.path.join(DOCS, name + ".py"))
+    module = importlib.util.module_from_spec(found)
+    found.loader.exec_module(module)
     return module
 
 
