@@ -82,6 +82,9 @@ void encode_record(AstDataRecord *out, uint8_t *buffer, size_t size, const AstDa
         ast_log(AST_LOG_DEBUG, "Failed to encode FSPEC.");
         return;
     }
+    // The last FSPEC octet may hold FRNs past the profile's highest: they
+    // are cleared too, so that what the buffer held before does not show.
+    for (uint32_t frn = max_frn + 1; frn <= 7 * fspec_length; ++frn) ast_fspec_set(buffer, size, frn, false);
     for (uint64_t i = 0; i + 1 < fspec_length; ++i) buffer[i] = static_cast<uint8_t>(buffer[i] | 0x01u);
     buffer[fspec_length - 1] = static_cast<uint8_t>(buffer[fspec_length - 1] & ~0x01u);
 

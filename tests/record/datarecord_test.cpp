@@ -124,6 +124,36 @@ TEST(DataRecord, EncodeFailuresAreLogged) {
     EXPECT_EQ(buffer[2], 0x40);
 }
 
+// A profile whose highest FRN ends inside an FSPEC octet: the bits past it
+// are cleared, whatever the buffer held (CAT002 in the ASR-10SS layout has
+// six FRNs; CAT001 plots twenty-one, the end of their third octet).
+TEST(DataRecord, EncodeWritesTheWholeFspecOverADirtyBuffer) {
+    AstDataSourceIdentifier source{1, 25, 3};
+    const struct {
+        uint32_t category;
+        const AstUap *uap;
+        AstItemId id;
+        std::vector<uint8_t> record;
+    } cases[] = {
+        {2, &AST_UAP_ASR10SS, 2010, {0x80, 0x19, 0x03}},
+        {1, &AST_UAP_CAT001_PLOT, 1010, {0x80, 0x19, 0x03}},
+        {16, &AST_UAP_STANDARD, 16010, {0x80, 0x19, 0x03}},
+    };
+    for (const auto &c : cases) {
+        AstDataRecordInput in{};
+        in.category = c.category;
+        in.uap = *c.uap;
+        in.items[0] = {1, c.id, &source};
+        in.item_count = 1;
+        uint8_t buffer[16];
+        std::memset(buffer, 0xFF, sizeof buffer);
+        AstDataRecord r;
+        ast_datarecord_encode(&r, buffer, sizeof buffer, &in);
+        ASSERT_EQ(r.valid, 1) << c.category;
+        EXPECT_EQ(std::vector<uint8_t>(buffer, buffer + r.length), c.record) << c.category;
+    }
+}
+
 TEST(DataRecord, CopyAndModifyWithoutReplacements) {
     AstDataRecord r = decode(kPlot, kPlot.size());
     ASSERT_EQ(r.valid, 1);
