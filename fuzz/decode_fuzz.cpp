@@ -37,6 +37,7 @@ struct Leaves {
     size_t count = 0;
     bool settable = true;  // no leaf sits inside an array or was dropped
     const char *names[16];
+    size_t count_at_open[16];  // leaves collected when each open group began
     uint32_t depth = 0;
     uint32_t in_array = 0;
 };
@@ -49,12 +50,16 @@ int collect(void *context, const AstField *f) {
     if (f->kind == AST_FIELD_GROUP_BEGIN || f->kind == AST_FIELD_ARRAY_BEGIN) {
         if (l.depth >= 16) __builtin_trap();
         if (l.in_array > 0 || f->kind == AST_FIELD_ARRAY_BEGIN || !f->name) ++l.in_array;
+        l.count_at_open[l.depth] = l.count;
         l.names[l.depth++] = f->name;
         return 1;
     }
     if (f->kind == AST_FIELD_GROUP_END || f->kind == AST_FIELD_ARRAY_END) {
         if (l.depth == 0) __builtin_trap();
         --l.depth;
+        // A group without a leaf (a present subfield with nothing in it)
+        // cannot be said by name: only its octets give it.
+        if (l.count == l.count_at_open[l.depth]) l.settable = false;
         if (l.in_array > 0) --l.in_array;
         return 1;
     }
