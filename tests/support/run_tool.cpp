@@ -1,0 +1,100 @@
+#include "support/run_tool.h"
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kovrel_test {
+
+bool tool_available() {
+#ifdef KOVREL_TOOL_BINARY
+    return access(KOVREL_TOOL_BINARY, X_OK) == 0;
+#else
+    return false;
+#endif
+}
+
+ToolRun run_tool(const std::vector<std::string> &args, const std::string &input, int timeout_seconds) {
+    ToolRun run;
+#ifdef KOVREL_TOOL_BINARY
+    int in[2], out[2], err[2];
+    if (pipe2(in, O_CLOEXEC) != 0) return run;
+    if (pipe2(out, O_CLOEXEC) != 0 || pipe2(err, O_CLOEXEC) != 0) return run;
+    const pid_t pid = fork();
+    if (pid < 0) return run;
+    if (pid == 0) {
+        dup2(in[0], 0);
+        dup2(out[1], 1);
+        dup2(err[1], 2);
+        std::vector<char *> argv;
+        argv.push_back(const_cast<char *>(KOVREL_TOOL_BINARY));
+        for (const auto &a : args) argv.push_back(const_cast<char *>(a.c_str()));
+        argv.push_back(nullptr);
+        execv(KOVREL_TOOL_BINARY, argv.data());
+        _exit(127);
+    }
+    close(in[0]);
+    close(out[1]);
+    close(err[1]);
+    signal(SIGPIPE, SIG_IGN);
+    fcntl(in[1], F_SETFL, O_NONBLOCK);
+    size_t sent = 0;
+    int to_child = in[1];
+    if (input.empty()) {
+        close(to_child);
+        to_child = -1;
+    }
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(timeout_seconds);
+    bool out_open = true, err_open = true, killed = false;
+    char buf[65536];
+    while (out_open || err_open) {
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0) {
+            kill(pid, SIGKILL);
+            killed = true;
+            break;
+        }
+        pollfd fds[3] = {{out_open ? out[0] : -1, POLLIN, 0}, {err_open ? err[0] : -1, POLLIN, 0}, {to_child, POLLOUT, 0}};
+        if (poll(fds, 3, static_cast<int>(left.count())) < 0 && errno != EINTR) break;
+        for (int i = 0; i < 2; ++i) {
+            if (!(fds[i].revents & (POLLIN | POLLHUP | POLLERR))) continue;
+            const ssize_t n = read(fds[i].fd, buf, sizeof buf);
+            if (n > 0)
+                (i == 0 ? run.out : run.err).append(buf, static_cast<size_t>(n));
+            else
+                (i == 0 ? out_open : err_open) = false;
+        }
+        if (to_child >= 0 && (fds[2].revents & (POLLOUT | POLLERR | POLLHUP))) {
+            const ssize_t n = write(to_child, input.data() + sent, input.size() - sent);
+            if (n > 0) sent += static_cast<size_t>(n);
+            if (n < 0 && errno != EAGAIN) sent = input.size();
+            if (sent == input.size()) {
+                close(to_child);
+                to_child = -1;
+            }
+        }
+    }
+    if (to_child >= 0) close(to_child);
+    close(out[0]);
+    close(err[0]);
+    int status = 0;
+    waitpid(pid, &status, 0);
+    if (killed)
+        run.status = 128 + SIGKILL;
+    else if (WIFEXITED(status))
+        run.status = WEXITSTATUS(status);
+    else if (WIFSIGNALED(status))
+        run.status = 128 + WTERMSIG(status);
+#else
+    (void)args;
+    (void)input;
+    (void)timeout_seconds;
+#endif
+    return run;
+}
+
+}  // namespace kovrel_test
