@@ -8,6 +8,7 @@
 #include <kovrel/kovrel.h>
 
 #include "commands.h"
+#include "live.h"
 #include "output_html.h"
 #include "profiles.h"
 #include "progress.h"
@@ -59,6 +60,37 @@ int run_decode(const DecodeOptions &options) {
     }
     if (!options.columns.empty() && format != "csv") {
         std::fprintf(stderr, "kovrel: --columns goes with --format csv\n");
+        return 2;
+    }
+    LiveOptions live;
+    live.count = options.count;
+    live.duration = options.duration;
+    live.record = options.record;
+    for (const auto &file : options.files) {
+        if (!is_udp_url(file)) continue;
+        UdpEndpoint endpoint;
+        std::string error;
+        if (!parse_udp_url(file, endpoint, error)) {
+            std::fprintf(stderr, "kovrel: %s: %s\n", file.c_str(), error.c_str());
+            return 2;
+        }
+        live.endpoints.push_back(std::move(endpoint));
+    }
+    const bool listening = !live.endpoints.empty();
+    if (listening && live.endpoints.size() != options.files.size()) {
+        std::fprintf(stderr, "kovrel: files and udp:// inputs do not mix; decode them in separate runs\n");
+        return 2;
+    }
+    if (listening && html) {
+        std::fprintf(stderr, "kovrel: --format html does not go with udp:// inputs\n");
+        return 2;
+    }
+    if (!listening && (options.count || options.duration > 0 || !options.record.empty())) {
+        std::fprintf(stderr, "kovrel: --count, --duration and --record go with udp:// inputs\n");
+        return 2;
+    }
+    if (options.duration < 0) {
+        std::fprintf(stderr, "kovrel: --duration must not be negative\n");
         return 2;
     }
     SessionSettings settings;
@@ -130,7 +162,8 @@ int run_decode(const DecodeOptions &options) {
     int status = 0;
     int write_errno = 0;
     const auto started = std::chrono::steady_clock::now();
-    for (size_t i = 0; i < inputs && !session.output_failed(); ++i) {
+    if (listening) status = decode_live(session, live, stderr);
+    for (size_t i = 0; i < inputs && !listening && !session.output_failed(); ++i) {
         if (!html) {
             decode(i);
             continue;
@@ -164,6 +197,7 @@ int run_decode(const DecodeOptions &options) {
         else
             stats.print(stderr, seconds);
     }
+    if (listening) return status;
     if (stats.unreadable == stats.inputs) {
         if (stats.inputs > 1) std::fprintf(stderr, "kovrel: no input could be read\n");
         return 1;

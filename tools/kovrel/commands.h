@@ -28,6 +28,10 @@ struct DecodeOptions {
     std::vector<std::string> filters;  // --filter KEYWORD=VALUE, all must match (see filter.h)
     std::vector<std::string> categories;  // --cat LIST (repeatable; lists add up)
     std::string time;                // --time FROM-TO, time of day
+    // Live input (files are udp:// URLs, see udp_url.h):
+    uint64_t count = 0;              // stop after this many records (0: no limit)
+    double duration = 0;             // stop after this many seconds (0: no limit)
+    std::string record;              // write the datagrams received to this pcap file
 };
 
 // `kovrel [decode] [FILE...]`: decodes recordings (pcap, pcapng, raw
@@ -36,7 +40,8 @@ struct DecodeOptions {
 // failed, 2 for bad options (also: html for several inputs without -o, an
 // unknown CSV column, a bad --filter, --cat or --time). Records are not formatted at all with --stats and
 // neither a format, --items nor -o, and with -o /dev/null: the inputs are
-// decoded and counted only.
+// decoded and counted only. udp:// inputs are listened to (see live.h) until
+// a signal, --count or --duration; receiving nothing is not an error there.
 int run_decode(const DecodeOptions &options);
 
 // `kovrel keywords`: the search keywords with their filter names, their

@@ -42,13 +42,32 @@ std::string format_location(const Location &where);
 constexpr size_t kLocationSize = 48;
 size_t format_location(char *text, const Location &where);
 
+// An IPv4 or IPv6 address and UDP port, as the octets of the wire (network
+// order). family 0: no address (raw and hex inputs).
+struct NetAddress {
+    uint8_t family = 0;  // 0, 4 or 6
+    uint8_t octets[16] = {};  // IPv4: the first 4
+    uint16_t port = 0;
+
+    bool known() const { return family != 0; }
+};
+
+// "192.0.2.1:8600", "[2001:db8::1]:8600" (RFC 5952 text); "" for no
+// address. text needs kAddressSize characters; returns the characters written.
+constexpr size_t kAddressSize = 56;
+size_t format_address(char *text, const NetAddress &address);
+std::string format_address(const NetAddress &address);
+
 // Octets of one chunk. For captures, time is the packet's time stamp in
-// seconds since 1970 (0 otherwise).
+// seconds since 1970, for live input the receive time (0 otherwise); src
+// and dst are the datagram's sender and destination (captures and live
+// input).
 struct Chunk {
     Location where;
     const uint8_t *data = nullptr;
     size_t size = 0;
     double time = 0;
+    NetAddress src, dst;
 };
 
 // Receives the chunks of an input; returns false to stop reading.
@@ -92,6 +111,7 @@ enum class FrameResult { Udp, NotUdp, Fragment, Truncated };
 struct Payload {
     const uint8_t *data = nullptr;
     size_t size = 0;
+    NetAddress src, dst;  // from the IP and UDP headers
 };
 
 // True for the link types whose frames udp_payload understands: Ethernet

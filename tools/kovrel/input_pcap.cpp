@@ -1,6 +1,8 @@
 // Captures: UDP payloads out of pcap and pcapng files, through libpcap.
 #include <pcap/pcap.h>
 
+#include <cstring>
+
 #include "input.h"
 
 namespace kovrel_tool {
@@ -22,7 +24,17 @@ FrameResult udp(const uint8_t *p, size_t n, Payload &out) {
     if (length < 8 || length > n) return FrameResult::Truncated;
     out.data = p + 8;
     out.size = length - 8;
+    out.src.port = be16(p);
+    out.dst.port = be16(p + 2);
     return FrameResult::Udp;
+}
+
+// The addresses of an IP header (the ports come with the UDP header).
+void set_addresses(Payload &out, uint8_t family, const uint8_t *src, const uint8_t *dst) {
+    const size_t n = family == 4 ? 4 : 16;
+    out.src.family = out.dst.family = family;
+    std::memcpy(out.src.octets, src, n);
+    std::memcpy(out.dst.octets, dst, n);
 }
 
 FrameResult ipv4(const uint8_t *p, size_t n, Payload &out) {
@@ -35,6 +47,7 @@ FrameResult ipv4(const uint8_t *p, size_t n, Payload &out) {
     const uint16_t fragment = be16(p + 6);
     if ((fragment & 0x2000) != 0 || (fragment & 0x1FFF) != 0) return FrameResult::Fragment;
     if (p[9] != 17) return FrameResult::NotUdp;
+    set_addresses(out, 4, p + 12, p + 16);
     return udp(p + header, total - header, out);
 }
 
@@ -50,6 +63,7 @@ FrameResult ipv6(const uint8_t *p, size_t n, Payload &out) {
     for (int hops = 0; hops < 32; ++hops) {
         switch (next) {
         case 17:
+            set_addresses(out, 6, p + 8, p + 24);
             return udp(p + off, end - off, out);
         case 0:    // hop-by-hop options
         case 43:   // routing
@@ -181,6 +195,8 @@ bool read_capture(std::FILE *file, const ChunkSink &sink, CaptureStats &stats, s
             chunk.data = payload.data;
             chunk.size = payload.size;
             chunk.time = static_cast<double>(header->ts.tv_sec) + static_cast<double>(header->ts.tv_usec) * 1e-9;
+            chunk.src = payload.src;
+            chunk.dst = payload.dst;
             if (!sink(chunk)) {
                 pcap_close(pcap);
                 return true;

@@ -61,9 +61,17 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                     "formatted at all); html with several inputs (needs -o): FILE for the first, then FILE with "
                     "-2, -3, ... before the extension (out.html, out-2.html)");
     app->add_flag("--log", o.log, "library log lines on standard error");
+    app->add_option("--count", o.count,
+                    "udp:// inputs: stop once N records were decoded (records of valid blocks that pass the "
+                    "filters; the datagram that reaches N is decoded whole)");
+    app->add_option("--duration", o.duration, "udp:// inputs: stop after SECONDS (fractions allowed)");
+    app->add_option("--record", o.record,
+                    "udp:// inputs: also write every datagram received to FILE as a pcap capture (raw IP, "
+                    "receive time, addresses and ports), which decodes as the live input did");
     app->add_option("files", o.files,
                     "pcap, pcapng, raw data blocks or hexadecimal text (\"-\": standard input); "
-                    "none: the built-in sample recording");
+                    "none: the built-in sample recording; or live UDP input, "
+                    "udp://[SOURCE@]ADDRESS:PORT[?iface=NAME] (several may be given, not mixed with files)");
     app->footer(
         "Inputs are told apart by their content. Text lines read: block number, block location (\"@N\": "
         "octet N of a raw or hex input; \"pkt P+N\": octet N of the UDP payload of packet P), category, "
@@ -72,7 +80,15 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
         "(and, with html, on the page where they occur) and decoding goes on. CSV cells are quoted as RFC 4180 "
         "says; JSON output is valid JSON whatever the input octets. Exit status 1 when nothing could "
         "be read or writing failed, 2 for bad options (an unknown CSV column, a bad --filter, --cat or --time too). "
-        "--filter, --cat and --time keep the records that pass all of them, in every format and in --stats.");
+        "--filter, --cat and --time keep the records that pass all of them, in every format and in --stats. "
+        "Live input: udp://ADDRESS:PORT binds a numeric IPv4 address or an [IPv6] one (0.0.0.0 or [::]: every "
+        "local address; port 0: any free port, told on standard error); a multicast group (224.0.0.0/4, "
+        "ff00::/8) is joined, source-specific with SOURCE@ (udp://10.1.2.3@232.1.1.1:8600), on the interface "
+        "?iface=NAME (default: the routing table's choice). Each datagram is decoded as it arrives and its "
+        "records written at once; they read as a capture's: \"pkt P+N\" is datagram P of its socket, time is "
+        "the receive time, src and dst the sender and destination (\"src\" on text lines; \"src\", \"dst\" "
+        "JSON keys and CSV columns, captures too). Runs until Ctrl-C or SIGTERM, --count or --duration, then "
+        "prints --stats; receiving nothing is said on standard error, with exit status 0.");
 }
 
 }  // namespace

@@ -128,6 +128,10 @@ void RecordFormatter::text_line(const RecordView &v) {
     out_.put(r.valid ? std::string_view("valid") : std::string_view("INVALID"));
     reader_.read(fields_, r, kAskTags);
     put_field_tags(out_, fields_);
+    if (v.src.known()) {
+        out_.put("  src ", 6);
+        out_.advance(format_address(out_.room(kAddressSize), v.src));
+    }
     out_.put('\n');
 }
 
@@ -230,6 +234,13 @@ void RecordFormatter::json_line(const RecordView &v) {
         out_.put_unsigned(v.where.packet);
         out_.put(",\"time\":", 8);
         put_json_real(out_, v.time);
+    }
+    if (v.src.known()) {
+        out_.put(",\"src\":\"", 8);
+        out_.advance(format_address(out_.room(kAddressSize), v.src));
+        out_.put("\",\"dst\":\"", 9);
+        out_.advance(format_address(out_.room(kAddressSize), v.dst));
+        out_.put('"');
     }
     out_.put(",\"cat\":", 7);
     out_.put_unsigned(r.category);

@@ -9,12 +9,14 @@
 // is "-", null in JSON, and its items are those read before the failure),
 // then the record's tags when it has any (see put_field_tags in fields.h):
 //   ... items 14 valid  sac 25 sic 1  tod 12:34:56.789  Target Report  callsign DLH123
+// and, for datagrams (captures, live input), their sender: "  src 192.0.2.1:8600".
 // Item line (with --items):
 //     I048/010  Data Source Identifier                  len 2   19 01  | SAC:025 SIC:001
 // identifier, name, length, octets in hexadecimal, summary.
 //
 // JSON object (one per line), keys in this order: input, block, offset,
-// packet and time (for captures), cat, uap, record, length, item_count,
+// packet and time (for captures and live input), src and dst (the
+// datagram's addresses, "192.0.2.1:8600", when known), cat, uap, record, length, item_count,
 // valid, block_valid, fields (see fields.h) and items: [{id, name, len,
 // hex, summary, fields}, ...]. offset is the block's octet offset: in the
 // input for raw and hex inputs, in the UDP payload of the packet for
@@ -43,7 +45,8 @@ struct RecordView {
     std::string_view input;  // name of the input
     uint64_t block = 0;      // block number, from 1
     Location where;          // of the block
-    double time = 0;         // capture time stamp, 0 when none
+    double time = 0;         // capture time stamp or receive time, 0 when none
+    NetAddress src, dst;     // the datagram's sender and destination (captures, live input)
     const AstDataRecord *record = nullptr;
     size_t number = 0;       // record number in the block, from 1
     bool block_valid = true;

@@ -9,10 +9,12 @@ namespace {
 
 // The values of a RecordView, in the order of the JSON keys.
 enum ViewColumn {
-    kInput, kBlock, kOffset, kPacket, kTime, kCat, kUap, kRecord, kLength, kItemCount, kValid, kBlockValid
+    kInput, kBlock, kOffset, kPacket, kTime, kCat, kUap, kRecord, kLength, kItemCount, kValid, kBlockValid,
+    kSrc, kDst
 };
 constexpr const char *kViewColumns[] = {"input", "block", "offset",     "packet", "time",  "cat",
-                                        "uap",   "record", "length",    "item_count", "valid", "block_valid"};
+                                        "uap",   "record", "length",    "item_count", "valid", "block_valid",
+                                        "src",   "dst"};
 constexpr size_t kViewColumnCount = sizeof kViewColumns / sizeof kViewColumns[0];
 
 // "I048/040", "I048/SPF", "I021/A03": 'I', three digits, '/', three letters or digits.
@@ -312,6 +314,12 @@ void CsvWriter::row(const RecordView &v) {
             case kItemCount: out_.put_unsigned(r.item_count); break;
             case kValid: out_.put(r.valid ? std::string_view("true") : std::string_view("false")); break;
             case kBlockValid: out_.put(v.block_valid ? std::string_view("true") : std::string_view("false")); break;
+            case kSrc:
+            case kDst: {
+                const NetAddress &a = c.record == kSrc ? v.src : v.dst;
+                if (a.known()) out_.advance(format_address(out_.room(kAddressSize), a));
+                break;
+            }
             }
             break;
         }

@@ -2,8 +2,8 @@
 //
 // A column is one of
 //   - a record column: input, block, offset, packet, time, cat, uap,
-//     record, length, item_count, valid, block_valid (as in the JSON
-//     output), or a key of the record fields (sac, sic, tod, ..., vrate;
+//     record, length, item_count, valid, block_valid, src, dst (as in the
+//     JSON output), or a key of the record fields (sac, sic, tod, ..., vrate;
 //     see fields.h);
 //   - an item field: the item's identifier as the library writes it
 //     ("I048/040"), a dot, and the path of the field in the item's field

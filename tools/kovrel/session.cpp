@@ -300,6 +300,8 @@ void DecodeSession::emit(const std::string &name, uint64_t block, const Chunk &c
     view.block = block;
     view.where = where;
     view.time = chunk.time;
+    view.src = chunk.src;
+    view.dst = chunk.dst;
     view.block_valid = outcome.valid;
     auto one = [&](const AstDataRecord &record, size_t number) {
         if (output_failed_) return;

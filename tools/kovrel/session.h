@@ -64,6 +64,13 @@ public:
     // Decodes octets held in memory, of any kind decode_file accepts.
     bool decode_memory(const std::string &name, const uint8_t *data, size_t size);
 
+    // Live input (session_live.cpp): one more input for the counts, and one
+    // datagram of it decoded as a chunk and its records written out at once
+    // (flushed to out). `blocks` is the input's running block number, kept
+    // by the caller as inputs interleave. False once writing failed.
+    void add_live_input(const CaptureStats &datagrams);
+    bool decode_datagram(const std::string &name, const Chunk &chunk, uint64_t &blocks);
+
     // Writes what follows to out: records as lines, or, with a page, the
     // records and the messages (these still go to `messages` as well) into
     // the page, which writes on out too. Records not written yet go to the
