@@ -110,6 +110,10 @@ bool parse_udp_url(std::string_view text, UdpEndpoint &out, std::string &error) 
         if (!parse_host(rest.substr(0, at), out.source, "source", error)) return false;
         rest = rest.substr(at + 1);
     }
+    if (!rest.empty() && rest.front() == '[' && rest.find(']') == std::string_view::npos) {
+        error = "the address '" + std::string(rest) + "' lacks its closing ']'";
+        return false;
+    }
     const size_t colon = rest.rfind(':');
     if (colon == std::string_view::npos || (!rest.empty() && rest.front() == '[' && colon < rest.find(']'))) {
         error = "the port is missing (udp://ADDRESS:PORT)";
@@ -131,6 +135,11 @@ bool parse_udp_url(std::string_view text, UdpEndpoint &out, std::string &error) 
             error = "the source must be a unicast address";
             return false;
         }
+    }
+    // Interface- and link-local IPv6 groups (ff01::, ff02::) exist per link.
+    if (out.multicast && out.address.family == 6 && (out.address.octets[1] & 0x0F) <= 2 && out.iface.empty()) {
+        error = "a link-local group needs its interface: ?iface=NAME";
+        return false;
     }
     if (!out.iface.empty() && !out.multicast) {
         error = "?iface= names the interface a multicast group is joined on, and this address is not a group";

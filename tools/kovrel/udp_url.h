@@ -4,7 +4,8 @@
 // ("udp://[ff02::1234]:50000"). A multicast group (224.0.0.0/4, ff00::/8)
 // is joined; SOURCE (a unicast address of the same family) makes the join
 // source-specific; iface names the interface the group is joined on
-// (default: the one the routing table picks). A unicast address, 0.0.0.0
+// (default: the one the routing table picks; link-local IPv6 groups, ff02::
+// and ff01::, need it). A unicast address, 0.0.0.0
 // or [::] is bound and nothing is joined. PORT 0 binds any free port.
 #pragma once
 
