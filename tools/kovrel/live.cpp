@@ -91,8 +91,6 @@ int decode_live(DecodeSession &session, const LiveOptions &options, std::FILE *m
         close_all();
         return 1;
     }
-    for (const Socket &s : sockets) std::fprintf(messages, "kovrel: listening on %s\n", s.name.c_str());
-    std::fflush(messages);
 
     int status = 0;
     std::vector<pollfd> polls(sockets.size());
@@ -101,7 +99,11 @@ int decode_live(DecodeSession &session, const LiveOptions &options, std::FILE *m
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::duration<double>(options.duration);
     bool done = false;
     {
+        // Caught from before the sockets are told, so that a signal sent on
+        // seeing them ends the run as any other.
         StopSignals signals;
+        for (const Socket &s : sockets) std::fprintf(messages, "kovrel: listening on %s\n", s.name.c_str());
+        std::fflush(messages);
         while (!done && !g_stop) {
             timespec wait{};
             timespec *timeout = nullptr;
