@@ -112,6 +112,9 @@ TEST(ToolCsv, RowsHoldRecordAndItemValues) {
     const Octets capture = pcap_file(1, {ethernet(0x0800, ipv4(udp(block_of({kSourceOnly}))))});
     EXPECT_EQ(csv("packet,time,offset,input", capture, "two\nlines"),
               "packet,time,offset,input\n1,1715680800.0005,0,\"two\nlines\"\n");
+    // The datagram's addresses; raw inputs have none.
+    EXPECT_EQ(csv("src,dst,cat", capture), "src,dst,cat\n10.0.0.1:4000,239.1.1.1:8600,48\n");
+    EXPECT_EQ(csv("src,dst,cat", block_of({kSourceOnly})), "src,dst,cat\n,,48\n");
     // A header with no records still goes out, once.
     EXPECT_EQ(csv("sac,I048/010.sac", Octets{}), "sac,I048/010.sac\n");
 }

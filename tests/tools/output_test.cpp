@@ -228,7 +228,8 @@ TEST(ToolJson, RecordLineExactly) {
     const auto lines = out.lines();
     ASSERT_EQ(lines.size(), 1u);
     const std::string expected =
-        R"({"input":"in \"x\"","block":1,"offset":0,"packet":1,"time":1715680800.0005,"cat":48,"uap":"standard",)"
+        R"({"input":"in \"x\"","block":1,"offset":0,"packet":1,"time":1715680800.0005,)"
+        R"("src":"10.0.0.1:4000","dst":"239.1.1.1:8600","cat":48,"uap":"standard",)"
         R"("record":1,"length":15,"item_count":4,"valid":true,"block_valid":true,"fields":{"sac":25,"sic":1,)"
         R"("tod":"12:34:56.789","msgtype":"Plot","mode3a":"5077","callsign":"DLH123"},"items":[)"
         R"({"id":"I048/010","name":"Data Source Identifier","len":2,"hex":"19 01","summary":"SAC:025 SIC:001")" +
@@ -271,8 +272,10 @@ TEST(ToolText, LinesAsBefore) {
           "blk 2     @6             CAT048 standard      rec 1  len 3    items 1  valid  sac 25 sic 3  Plot",
           "blk 2     @6             CAT048 standard      rec 2  len -    items 1  INVALID"}},
         {pcap_file(1, {ethernet(0x0800, ipv4(udp(concat({block_of({source_only}), block_of({source_only})}))))}),
-         {"blk 1     pkt 1+0        CAT048 standard      rec 1  len 3    items 1  valid  sac 25 sic 3  Plot",
-          "blk 2     pkt 1+6        CAT048 standard      rec 1  len 3    items 1  valid  sac 25 sic 3  Plot"}},
+         {"blk 1     pkt 1+0        CAT048 standard      rec 1  len 3    items 1  valid  sac 25 sic 3  Plot  "
+          "src 10.0.0.1:4000",
+          "blk 2     pkt 1+6        CAT048 standard      rec 1  len 3    items 1  valid  sac 25 sic 3  Plot  "
+          "src 10.0.0.1:4000"}},
     };
     for (const auto &c : cases) EXPECT_EQ(decode_octets(c.input, false).lines, c.lines);
 

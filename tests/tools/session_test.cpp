@@ -270,8 +270,9 @@ TEST(ToolSession, BuiltInSampleDecodesWhole) {
         const auto j = nlohmann::ordered_json::parse(line);
         std::vector<std::string> keys;
         for (const auto &[key, value] : j.items()) keys.push_back(key);
-        EXPECT_EQ(keys, (std::vector<std::string>{"input", "block", "offset", "packet", "time", "cat", "uap", "record",
-                                                  "length", "item_count", "valid", "block_valid", "fields", "items"}));
+        EXPECT_EQ(keys, (std::vector<std::string>{"input", "block", "offset", "packet", "time", "src", "dst", "cat",
+                                                  "uap", "record", "length", "item_count", "valid", "block_valid",
+                                                  "fields", "items"}));
         ASSERT_EQ(j["valid"], true);
         ASSERT_EQ(j["items"].size(), j["item_count"]);
         for (const auto &item : j["items"]) {

@@ -11,6 +11,7 @@
 #include "datagram_recorder.h"
 #include "input.h"
 #include "pcap_writer.h"
+#include "tools/capture_builder.h"
 #include "udp_url.h"
 
 using namespace kovrel_tool;
@@ -166,6 +167,31 @@ TEST(UdpUrl, RecordedPacketsReadBack) {
     std::vector<uint8_t> big(65528);
     EXPECT_FALSE(build_udp_packet(cases[0].src, cases[0].dst, big.data(), big.size(), packet));
     EXPECT_TRUE(build_udp_packet(cases[0].src, cases[0].dst, big.data(), 65507, packet));
+}
+
+// Captured frames give their datagram's addresses and ports too, whatever
+// lies between the link layer and UDP.
+TEST(UdpUrl, CapturedFramesTellTheirAddresses) {
+    using namespace kovrel_tool_test;
+    const Octets data = {48, 0, 3};
+    const Octets hop = {17, 0, 0, 0, 0, 0, 0, 0};  // hop-by-hop options, then UDP
+    const struct {
+        int linktype;
+        Octets frame;
+        const char *src, *dst;
+    } cases[] = {
+        {DLT_EN10MB, ethernet(0x0800, ipv4(udp(data, 4001, 8601))), "10.0.0.1:4001", "239.1.1.1:8601"},
+        {DLT_EN10MB, ethernet(0x0800, ipv4(udp(data)), {0x8100}), "10.0.0.1:4000", "239.1.1.1:8600"},
+        {DLT_EN10MB, ethernet(0x86DD, ipv6(udp(data, 65535, 1))), "[::1]:65535", "[::1]:1"},
+        {DLT_RAW, ipv6(concat({hop, udp(data, 7, 9)}), 0), "[::1]:7", "[::1]:9"},
+        {DLT_RAW, ipv4(udp(data, 0, 0)), "10.0.0.1:0", "239.1.1.1:0"},
+    };
+    for (const auto &c : cases) {
+        Payload p;
+        ASSERT_EQ(udp_payload(c.linktype, c.frame.data(), c.frame.size(), p), FrameResult::Udp);
+        EXPECT_EQ(format_address(p.src), c.src);
+        EXPECT_EQ(format_address(p.dst), c.dst);
+    }
 }
 
 #endif  // KOVREL_HAVE_TOOL_CORE
