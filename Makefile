@@ -2,6 +2,7 @@
 #   make demo   build everything and run the kovrel tool on its sample
 #   make test   build and run every test (plain, then ASan+UBSan, exports)
 #   make bench  build and run the benchmarks, then time the kovrel tool on a large recording
+#               and measure its live UDP input capacity
 #   make fuzz   build the libFuzzer target with clang and run it for FUZZ_SECONDS (60)
 #   make python build the Python package into $(BUILD)/python (its tests run with make test)
 
@@ -52,6 +53,7 @@ bench: deps
 	cmake --build $(BENCH_BUILD) -j $(JOBS)
 	$(BENCH_BUILD)/bench/kovrel_bench
 	bench/tool_bench.sh $(BENCH_BUILD)
+	bench/live_bench.sh $(BENCH_BUILD)
 	/usr/bin/python3 bench/python_bench.py $(BENCH_BUILD)
 
 fuzz: deps
