@@ -11,7 +11,8 @@ namespace {
 void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
     app->add_option("--format", o.format,
                     "text (the default): one line per record; json: one JSON object per record (JSON Lines): "
-                    "input, block, offset, packet and time (captures), cat, uap, record, length, item_count, valid, "
+                    "input, block, offset, packet and time (captures, live input), src and dst (their "
+                    "addresses), cat, uap, record, length, item_count, valid, "
                     "block_valid, a \"fields\" object (sac, sic, tod, msgtype, track, mode3a, fl, sel_alt, callsign, "
                     "icao, lat, lon, rho, theta, speed, heading, vx, vy, vrate: those the record has) and \"items\" "
                     "(id, name, len, hex, summary and the item's own \"fields\" when the library describes them); "
@@ -21,7 +22,8 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
         ->check(CLI::IsMember({"text", "json", "csv", "html"}));
     app->add_option("--columns", o.columns,
                     "csv: comma-separated columns (implies --format csv). Record columns: input, block, offset, "
-                    "packet, time, cat, uap, record, length, item_count, valid, block_valid and the record fields "
+                    "packet, time, cat, uap, record, length, item_count, valid, block_valid, src, dst and the "
+                    "record fields "
                     "(sac ... vrate, as in json). Item fields: the item, a dot and the field's path in the item's "
                     "fields, e.g. I048/040.rho, I048/250.bds60.ias, I048/130.srl.srl, array elements by position "
                     "from 0 (I048/030.codes.0). Default: block, offset, cat, uap, record, valid and the record "
@@ -63,11 +65,14 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
     app->add_flag("--log", o.log, "library log lines on standard error");
     app->add_option("--count", o.count,
                     "udp:// inputs: stop once N records were decoded (records of valid blocks that pass the "
-                    "filters; the datagram that reaches N is decoded whole)");
-    app->add_option("--duration", o.duration, "udp:// inputs: stop after SECONDS (fractions allowed)");
+                    "filters; the datagram that reaches N is decoded whole)")
+        ->type_name("N");
+    app->add_option("--duration", o.duration, "udp:// inputs: stop after SECONDS (fractions allowed)")
+        ->type_name("SECONDS");
     app->add_option("--record", o.record,
                     "udp:// inputs: also write every datagram received to FILE as a pcap capture (raw IP, "
-                    "receive time, addresses and ports), which decodes as the live input did");
+                    "receive time, addresses and ports), which decodes as the live input did")
+        ->type_name("FILE");
     app->add_option("files", o.files,
                     "pcap, pcapng, raw data blocks or hexadecimal text (\"-\": standard input); "
                     "none: the built-in sample recording; or live UDP input, "

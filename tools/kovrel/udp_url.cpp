@@ -46,7 +46,8 @@ bool parse_host(std::string_view text, NetAddress &out, const char *what, std::s
     }
     out.family = 4;
     if (inet_pton(AF_INET, host.c_str(), out.octets) != 1) {
-        error = std::string("the ") + what + " '" + host + "' is not a numeric IPv4 address (host names are not looked up)";
+        error = std::string("the ") + what + " '" + host +
+                "' is not a numeric IPv4 address (host names are not looked up)";
         return false;
     }
     return true;
