@@ -238,6 +238,8 @@ bool RecordStream::next_chunk() {
             chunk_.data = payload.data;
             chunk_.size = payload.size;
             chunk_.time = static_cast<double>(header->ts.tv_sec) + static_cast<double>(header->ts.tv_usec) * 1e-9;
+            chunk_.src = payload.src;
+            chunk_.dst = payload.dst;
             pos_ = 0;
             chunk_left_ = payload.size > 0;
             if (chunk_left_) return true;
@@ -301,6 +303,8 @@ bool RecordStream::next_block(RecordSink &sink) {
         view.block = number;
         view.where = s.where;
         view.time = chunk_.time;
+        view.src = chunk_.src;
+        view.dst = chunk_.dst;
         view.block_valid = outcome.valid;
         for (uint64_t i = 0; i < b.record_count && i < AST_DATABLOCK_MAX_RECORDS; ++i) {
             if (!filter_.empty() && !filter_.matches(b.records[i])) continue;
