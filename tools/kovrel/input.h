@@ -68,6 +68,7 @@ struct Chunk {
     size_t size = 0;
     double time = 0;
     NetAddress src, dst;
+    bool received = false;  // live input: time is when the datagram was received
 };
 
 // Receives the chunks of an input; returns false to stop reading.

@@ -152,6 +152,7 @@ int decode_live(DecodeSession &session, const LiveOptions &options, std::FILE *m
                         chunk.time = static_cast<double>(d.seconds) + static_cast<double>(d.nanoseconds) * 1e-9;
                         chunk.src = d.src;
                         chunk.dst = d.dst;
+                        chunk.received = true;
                         if (!session.decode_datagram(s.name, chunk, s.blocks)) done = true;
                         if (options.count && records_so_far(session.stats()) >= options.count) done = true;
                     }

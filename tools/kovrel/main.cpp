@@ -11,7 +11,7 @@ namespace {
 void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
     app->add_option("--format", o.format,
                     "text (the default): one line per record; json: one JSON object per record (JSON Lines): "
-                    "input, block, offset, packet and time (captures, live input), src and dst (their "
+                    "input, block, offset, packet and time (captures; rx_time, the receive time, for live input), src and dst (their "
                     "addresses), cat, uap, record, length, item_count, valid, "
                     "block_valid, a \"fields\" object (sac, sic, tod, msgtype, track, mode3a, fl, sel_alt, callsign, "
                     "icao, lat, lon, rho, theta, speed, heading, vx, vy, vrate: those the record has) and \"items\" "
@@ -22,7 +22,7 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
         ->check(CLI::IsMember({"text", "json", "csv", "html"}));
     app->add_option("--columns", o.columns,
                     "csv: comma-separated columns (implies --format csv). Record columns: input, block, offset, "
-                    "packet, time, cat, uap, record, length, item_count, valid, block_valid, src, dst and the "
+                    "packet, time, rx_time, cat, uap, record, length, item_count, valid, block_valid, src, dst and the "
                     "record fields "
                     "(sac ... vrate, as in json). Item fields: the item, a dot and the field's path in the item's "
                     "fields, e.g. I048/040.rho, I048/250.bds60.ias, I048/130.srl.srl, array elements by position "

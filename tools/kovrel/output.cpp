@@ -232,7 +232,10 @@ void RecordFormatter::json_line(const RecordView &v) {
     if (v.where.packet != 0) {
         out_.put(",\"packet\":", 10);
         out_.put_unsigned(v.where.packet);
-        out_.put(",\"time\":", 8);
+        if (v.received)
+            out_.put(",\"rx_time\":", 11);
+        else
+            out_.put(",\"time\":", 8);
         put_json_real(out_, v.time);
     }
     if (v.src.known()) {

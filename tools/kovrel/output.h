@@ -15,7 +15,8 @@
 // identifier, name, length, octets in hexadecimal, summary.
 //
 // JSON object (one per line), keys in this order: input, block, offset,
-// packet and time (for captures and live input), src and dst (the
+// packet and time (for captures; rx_time instead for live input: when the
+// datagram was received), src and dst (the
 // datagram's addresses, "192.0.2.1:8600", when known), cat, uap, record, length, item_count,
 // valid, block_valid, fields (see fields.h) and items: [{id, name, len,
 // hex, summary, fields}, ...]. offset is the block's octet offset: in the
@@ -47,6 +48,7 @@ struct RecordView {
     Location where;          // of the block
     double time = 0;         // capture time stamp or receive time, 0 when none
     NetAddress src, dst;     // the datagram's sender and destination (captures, live input)
+    bool received = false;   // live input: time is the receive time (rx_time)
     const AstDataRecord *record = nullptr;
     size_t number = 0;       // record number in the block, from 1
     bool block_valid = true;

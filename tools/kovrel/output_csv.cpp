@@ -10,11 +10,11 @@ namespace {
 // The values of a RecordView, in the order of the JSON keys.
 enum ViewColumn {
     kInput, kBlock, kOffset, kPacket, kTime, kCat, kUap, kRecord, kLength, kItemCount, kValid, kBlockValid,
-    kSrc, kDst
+    kSrc, kDst, kRxTime
 };
 constexpr const char *kViewColumns[] = {"input", "block", "offset",     "packet", "time",  "cat",
                                         "uap",   "record", "length",    "item_count", "valid", "block_valid",
-                                        "src",   "dst"};
+                                        "src",   "dst",    "rx_time"};
 constexpr size_t kViewColumnCount = sizeof kViewColumns / sizeof kViewColumns[0];
 
 // "I048/040", "I048/SPF", "I021/A03": 'I', three digits, '/', three letters or digits.
@@ -303,7 +303,10 @@ void CsvWriter::row(const RecordView &v) {
                 if (v.where.packet) out_.put_unsigned(v.where.packet);
                 break;
             case kTime:
-                if (v.where.packet) out_.put(text, format_json_real(text, v.time));
+            case kRxTime:
+                // The capture time of captures, the receive time of live input.
+                if (v.where.packet && v.received == (c.record == kRxTime))
+                    out_.put(text, format_json_real(text, v.time));
                 break;
             case kCat: out_.put_unsigned(r.category); break;
             case kUap: cell(label_(r)); break;

@@ -301,6 +301,7 @@ void DecodeSession::emit(const std::string &name, uint64_t block, const Chunk &c
     view.where = where;
     view.time = chunk.time;
     view.src = chunk.src;
+    view.received = chunk.received;
     view.dst = chunk.dst;
     view.block_valid = outcome.valid;
     auto one = [&](const AstDataRecord &record, size_t number) {
