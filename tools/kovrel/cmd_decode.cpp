@@ -117,6 +117,13 @@ int run_decode(const DecodeOptions &options) {
         }
     }
     settings.filter = &filter;
+    settings.follow = options.follow;
+    settings.framing_auto = options.framing == "auto";
+    if (!settings.framing_auto && !parse_framing(options.framing, settings.framing)) {
+        std::fprintf(stderr, "kovrel: unknown framing '%s'; use auto, none, oradis, final or length\n",
+                     options.framing.c_str());
+        return 2;
+    }
     // Counting alone: --stats with nothing asked of the records, or records
     // thrown away.
     const bool count_only = (options.stats && options.format.empty() && options.columns.empty() && !options.items &&

@@ -32,6 +32,8 @@ struct DecodeOptions {
     uint64_t count = 0;              // stop after this many records (0: no limit)
     double duration = 0;             // stop after this many seconds (0: no limit)
     std::string record;              // write the datagrams received to this pcap file
+    std::string framing = "auto";    // --framing auto|none|oradis|final|length
+    bool follow = false;             // --follow: read on as files and pipes grow
 };
 
 // `kovrel [decode] [FILE...]`: decodes recordings (pcap, pcapng, raw

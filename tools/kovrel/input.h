@@ -86,12 +86,45 @@ bool read_stream(std::FILE *file, std::vector<uint8_t> &out, std::string &error,
 
 // ---- Hexadecimal text --------------------------------------------------
 
-// Turns hexadecimal text into octets. Accepted: pairs of hex digits, alone
-// or run together ("30000c", "30 00 0c"), each token optionally prefixed by
-// "0x" (a prefixed token may also be a single digit, "0x5"), separated by
-// blanks, tabs, line ends, commas or semicolons; lines whose first
-// non-blank character is '#' are comments. On a bad token returns false
-// and sets error to a message naming the line.
+// Reads hexadecimal text as it arrives, line by line. The first line with
+// content tells the style:
+//   plain      pairs of hex digits, alone or run together ("30000c",
+//              "30 00 0c", "30:00:0c"), each token optionally prefixed by
+//              "0x" (a prefixed token may also be a single digit, "0x5"),
+//              separated by blanks, tabs, commas, semicolons or colons;
+//              '#' starts a comment that runs to the end of the line;
+//   xxd        "00000010: 3000 0c80 ...  0..." (offset and ASCII columns
+//              left out);
+//   hexdump -C "00000010  30 00 0c ...  |0..|" (the same; a '*' line,
+//              which stands for repeated lines, is refused).
+// od output and hexdump without -C (an offset column, then 16-bit or octal
+// words) are refused. The first bad line stops the reader: error() then
+// names it ("line 3: \"0g\": 'g' is not a hexadecimal digit").
+class HexReader {
+public:
+    // Adds text; the octets of its whole lines are appended to out. False
+    // once a line was refused (later text is ignored).
+    bool feed(std::string_view text, std::vector<uint8_t> &out);
+    // The text has ended: reads a last line without a line end.
+    bool finish(std::vector<uint8_t> &out);
+    const std::string &error() const { return error_; }
+
+private:
+    enum class Style { Unknown, Plain, Xxd, HexdumpC };
+    void line(std::string_view text, std::vector<uint8_t> &out);
+    void long_line(std::vector<uint8_t> &out);
+    void fail(const std::string &token, const std::string &why);
+
+    std::string partial_;    // a line without its end yet
+    bool continued_ = false; // part of partial_'s line was read already
+    size_t line_no_ = 0;
+    Style style_ = Style::Unknown;
+    bool failed_ = false;
+    std::string error_;
+};
+
+// Turns hexadecimal text into octets (a HexReader over the whole text). On
+// a bad line returns false and sets error to a message naming the line.
 bool parse_hex(std::string_view text, std::vector<uint8_t> &out, std::string &error);
 
 // ---- Captures ----------------------------------------------------------

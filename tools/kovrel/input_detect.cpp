@@ -26,7 +26,7 @@ bool is_capture_magic(uint32_t m) {
     }
 }
 
-bool is_separator(uint8_t c) { return c == ' ' || c == '\t' || c == '\r' || c == ',' || c == ';'; }
+bool is_separator(uint8_t c) { return c == ' ' || c == '\t' || c == '\r' || c == ',' || c == ';' || c == ':'; }
 bool is_hex_digit(uint8_t c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
 
 // Text whose first token (comments aside) is hexadecimal. The rest of the

@@ -73,6 +73,14 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                     "udp:// inputs: also write every datagram received to FILE as a pcap capture (raw IP, "
                     "receive time, addresses and ports), which decodes as the live input did")
         ->type_name("FILE");
+    app->add_option("--framing", o.framing,
+                    "recorder framing of raw inputs and UDP payloads: auto (told by content, the default), none "
+                    "(blocks back to back), oradis (6-octet header: length, time stamp in ms of the day), final "
+                    "(8-octet header: length, board, line, day, time of day in 10 ms; trailer A5 A5 A5 A5) or "
+                    "length (2-octet length of the blocks that follow)");
+    app->add_flag("--follow", o.follow,
+                  "at the end of a file or pipe wait for more, like tail -f, until Ctrl-C (SIGINT) or SIGTERM; "
+                  "then the rest is decoded and --stats printed");
     app->add_option("files", o.files,
                     "pcap, pcapng, raw data blocks or hexadecimal text (\"-\": standard input); "
                     "none: the built-in sample recording; or live UDP input, "

@@ -92,30 +92,28 @@ void DecodeSession::check_output() {
     }
 }
 
-bool DecodeSession::decode_stream(const std::string &name, std::FILE *file) {
-    std::vector<uint8_t> data;
-    std::string error;
-    const bool ok = read_stream(file, data, error);
-    if (file != stdin) std::fclose(file);
-    if (!ok) {
-        ++stats_.inputs;
-        unreadable(name, "cannot read: " + error);
-        return false;
-    }
-    return decode_memory(name, data.data(), data.size());
-}
-
 bool DecodeSession::decode_file(const std::string &path) {
     block_no_ = 0;
-    if (path == "-") return decode_stream("(standard input)", stdin);
+    if (path == "-") return decode_stream("(standard input)", STDIN_FILENO);
     std::FILE *file = std::fopen(path.c_str(), "rb");
     if (!file) {
         ++stats_.inputs;
         unreadable(path, std::string("cannot open: ") + std::strerror(errno));
         return false;
     }
-    // Pipes and other streams that cannot seek are read whole first.
-    if (std::fseek(file, 0, SEEK_END) != 0) return decode_stream(path, file);
+    // Pipes, devices and followed files are decoded as they are read.
+    struct stat st;
+    if (settings_.follow || fstat(fileno(file), &st) != 0 || !S_ISREG(st.st_mode) ||
+        std::fseek(file, 0, SEEK_END) != 0) {
+        const int fd = dup(fileno(file));
+        std::fclose(file);
+        if (fd < 0) {
+            ++stats_.inputs;
+            unreadable(path, std::string("cannot read: ") + std::strerror(errno));
+            return false;
+        }
+        return decode_stream(path, fd);
+    }
     ++stats_.inputs;
     const long end = std::ftell(file);
     const uint64_t total = end > 0 ? static_cast<uint64_t>(end) : 0;
@@ -136,12 +134,23 @@ bool DecodeSession::decode_file(const std::string &path) {
     }
     const InputKind kind = detect_input(head.data(), n);
     if (kind == InputKind::Pcap || kind == InputKind::Pcapng) return decode_capture(path, file);
+    if (kind == InputKind::Hex) {
+        // Text is read line by line: memory holds no copy of it.
+        --stats_.inputs;
+        const int fd = dup(fileno(file));
+        std::fclose(file);
+        if (fd < 0) {
+            ++stats_.inputs;
+            unreadable(path, std::string("cannot read: ") + std::strerror(errno));
+            return false;
+        }
+        return decode_stream(path, fd);
+    }
 
     // A regular file is mapped rather than read: the blocks are decoded
     // where they lie, and memory holds no copy of the input. (A file cut
     // shorter by another program while it is decoded cannot be read that
     // way; recorders append, they do not cut.)
-    struct stat st;
     if (fstat(fileno(file), &st) == 0 && S_ISREG(st.st_mode) && st.st_size > 0 &&
         static_cast<uint64_t>(st.st_size) == total) {
         const size_t size = static_cast<size_t>(st.st_size);
@@ -202,7 +211,7 @@ bool DecodeSession::decode_capture(const std::string &name, std::FILE *file) {
     CaptureStats capture;
     std::string error;
     const bool ok = read_capture(
-        file, [&](const Chunk &chunk) { return decode_chunk(name, chunk, false); }, capture, error,
+        file, [&](const Chunk &chunk) { return decode_payload(name, chunk); }, capture, error,
         [this](uint64_t done) {
             if (on_progress) on_progress(done);
         });
@@ -230,10 +239,16 @@ void DecodeSession::decode_octets(const std::string &name, InputKind kind, const
         data = parsed.data();
         size = parsed.size();
     }
-    Chunk chunk;
-    chunk.data = data;
-    chunk.size = size;
-    decode_chunk(name, chunk, true);
+    const Framing framing = framing_of(data, size < kHead ? size : kHead, size <= kHead);
+    if (framing == Framing::None) {
+        Chunk chunk;
+        chunk.data = data;
+        chunk.size = size;
+        decode_chunk(name, chunk, true);
+    } else {
+        ChunkStream frames(framing, data, size);
+        decode_pieces(name, frames);
+    }
     flush();
 }
 
@@ -276,7 +291,7 @@ bool DecodeSession::decode_chunk(const std::string &name, const Chunk &chunk, bo
         }
         }
         if (slice.problem == SliceProblem::LengthTooSmall || slice.problem == SliceProblem::LengthTooLarge) {
-            const uint64_t rest = chunk.size - slice.where.offset;
+            const uint64_t rest = chunk.size - (slice.where.offset - chunk.where.offset);
             message(name, "the next block cannot be found; " + std::to_string(rest) + " octets from " +
                               format_location(slice.where) + " on are skipped");
         }

@@ -11,6 +11,7 @@
 #include <kovrel/kovrel.h>
 
 #include "decode.h"
+#include "chunk_stream.h"
 #include "filter.h"
 #include "input.h"
 #include "out_buffer.h"
@@ -21,6 +22,7 @@
 namespace kovrel_tool {
 
 class HtmlPage;
+class StreamSource;
 
 // How records are written (without a page).
 enum class RecordFormat {
@@ -38,6 +40,13 @@ struct SessionSettings {
     // Records that do not pass it are neither written nor counted per
     // source, type and profile (nullptr or empty: every record is kept).
     const RecordFilter *filter = nullptr;
+    // Recorder framing of raw inputs and of UDP payloads (framing.h):
+    // told by content when framing_auto, else `framing` throughout.
+    bool framing_auto = true;
+    Framing framing = Framing::None;
+    // Keep reading files and pipes at their end, as they grow, until
+    // SIGINT or SIGTERM.
+    bool follow = false;
 };
 
 // Decodes inputs one after the other, writes the records to `out` and
@@ -58,8 +67,10 @@ public:
     DecodeSession(const DecodeSession &) = delete;
     DecodeSession &operator=(const DecodeSession &) = delete;
 
-    // Reads a file ("-" is standard input; pipes are read whole first).
-    // Returns false when it cannot be opened or read at all.
+    // Reads a file ("-" is standard input). Regular files of raw blocks
+    // are mapped; pipes, standard input, hexadecimal text and followed
+    // files are decoded as they are read, in pieces. Returns false when it
+    // cannot be opened or read at all.
     bool decode_file(const std::string &path);
     // Decodes octets held in memory, of any kind decode_file accepts.
     bool decode_memory(const std::string &name, const uint8_t *data, size_t size);
@@ -94,9 +105,17 @@ public:
     std::function<void()> before_message;
 
 private:
-    bool decode_stream(const std::string &name, std::FILE *file);
+    bool decode_stream(const std::string &name, int fd);
     bool decode_capture(const std::string &name, std::FILE *file);
     void decode_octets(const std::string &name, InputKind kind, const uint8_t *data, size_t size);
+    // Decodes the pieces a stream has ready.
+    void decode_pieces(const std::string &name, ChunkStream &stream);
+    // Octets of raw input: the framing to read them with.
+    Framing framing_of(const uint8_t *head, size_t size, bool at_end) const;
+    // A UDP payload, plain or framed.
+    bool decode_payload(const std::string &name, const Chunk &chunk);
+    void stream_hex(const std::string &name, StreamSource &source);
+    void stream_raw(const std::string &name, StreamSource &source);
     bool decode_chunk(const std::string &name, const Chunk &chunk, bool whole_input);
     void emit(const std::string &name, uint64_t block, const Chunk &chunk, const Location &where,
               const BlockOutcome &outcome, uint64_t kept);
