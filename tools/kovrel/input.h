@@ -18,6 +18,8 @@
 #include <string_view>
 #include <vector>
 
+#include "fragments.h"
+
 namespace kovrel_tool {
 
 enum class InputKind { Pcap, Pcapng, Raw, Hex };
@@ -134,7 +136,11 @@ struct CaptureStats {
     uint64_t packets = 0;     // packets read
     uint64_t udp = 0;         // UDP payloads handed on
     uint64_t not_udp = 0;     // other protocols (ARP, TCP, ICMP, ...)
-    uint64_t fragments = 0;   // IP fragments (not reassembled)
+    uint64_t fragments = 0;   // IP fragments read
+    uint64_t reassembled = 0;         // datagrams put together from fragments
+    uint64_t fragments_refused = 0;   // datagrams given up: overlapping or inconsistent fragments
+    uint64_t fragments_evicted = 0;   // datagrams given up: too many in reassembly at once
+    uint64_t fragments_incomplete = 0;  // datagrams still missing fragments at the end
     uint64_t truncated = 0;   // cut by the capture's snap length or malformed
     int linktype = -1;
 };
@@ -153,12 +159,20 @@ struct Payload {
 // (DLT_RAW, DLT_IPV4, DLT_IPV6) and BSD loopback (DLT_NULL, DLT_LOOP).
 bool linktype_supported(int linktype);
 
-// Finds the UDP payload of one captured frame of the given link type.
-FrameResult udp_payload(int linktype, const uint8_t *frame, size_t caplen, Payload &out);
+// Finds the UDP payload of one captured frame of the given link type. For
+// a fragment of an IP datagram (Fragment), fills *fragment when given.
+FrameResult udp_payload(int linktype, const uint8_t *frame, size_t caplen, Payload &out,
+                        IpFragment *fragment = nullptr);
+
+// The UDP payload of a datagram put together from fragments (version 4
+// or 6, the protocol or next header of its fragments, its payload).
+FrameResult reassembled_udp(uint8_t version, uint8_t protocol, const uint8_t *data, size_t size, Payload &out);
 
 // Reads a pcap or pcapng capture through libpcap and hands every UDP
 // payload to sink (location: packet number, offset 0) until the sink
-// returns false. The file is taken
+// returns false. Fragmented datagrams are put together (at most 64 at a
+// time, the oldest given up for room) and handed on at their last
+// fragment's packet. The file is taken
 // over and closed. Returns false with error set when libpcap cannot read
 // the capture at all or its link type is not supported; a capture cut
 // short after some packets is read up to the cut (error then tells it, and

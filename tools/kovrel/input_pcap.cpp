@@ -1,7 +1,6 @@
 // Captures: UDP payloads out of pcap and pcapng files, through libpcap.
-#include <pcap/pcap.h>
-
 #include <cstring>
+#include <pcap/pcap.h>
 
 #include "input.h"
 
@@ -37,29 +36,39 @@ void set_addresses(Payload &out, uint8_t family, const uint8_t *src, const uint8
     std::memcpy(out.dst.octets, dst, n);
 }
 
-FrameResult ipv4(const uint8_t *p, size_t n, Payload &out) {
+FrameResult ipv4(const uint8_t *p, size_t n, Payload &out, IpFragment *fragment) {
     if (n < 20) return FrameResult::Truncated;
     const size_t header = static_cast<size_t>(p[0] & 0x0F) * 4;
     const size_t total = be16(p + 2);
     // Captures cut by the snap length end before the datagram does; frames
     // padded to the Ethernet minimum end after it.
     if (header < 20 || total < header || total > n) return FrameResult::Truncated;
-    const uint16_t fragment = be16(p + 6);
-    if ((fragment & 0x2000) != 0 || (fragment & 0x1FFF) != 0) return FrameResult::Fragment;
+    const uint16_t flags = be16(p + 6);
+    if ((flags & 0x2000) != 0 || (flags & 0x1FFF) != 0) {
+        if (fragment) {
+            *fragment = IpFragment{};
+            fragment->version = 4;
+            fragment->protocol = p[9];
+            fragment->id = be16(p + 4);
+            std::memcpy(fragment->source, p + 12, 4);
+            std::memcpy(fragment->destination, p + 16, 4);
+            fragment->offset = static_cast<size_t>(flags & 0x1FFF) * 8;
+            fragment->more = (flags & 0x2000) != 0;
+            fragment->data = p + header;
+            fragment->size = total - header;
+        }
+        return FrameResult::Fragment;
+    }
     if (p[9] != 17) return FrameResult::NotUdp;
     set_addresses(out, 4, p + 12, p + 16);
     return udp(p + header, total - header, out);
 }
 
-FrameResult ipv6(const uint8_t *p, size_t n, Payload &out) {
-    if (n < 40) return FrameResult::Truncated;
-    const size_t payload = be16(p + 4);
-    size_t end = 40 + payload;
-    if (payload == 0) end = n;  // jumbogram: the length is in an option
-    if (end > n) return FrameResult::Truncated;
-    uint8_t next = p[6];
-    size_t off = 40;
-    // Walk the extension headers up to the transport header.
+// Walks IPv6 extension headers from `next` at p + off up to the UDP header.
+// ip is the IPv6 header (for a fragment's addresses), nullptr inside a
+// reassembled datagram (where a fragment header cannot be).
+FrameResult ipv6_transport(uint8_t next, const uint8_t *p, size_t off, size_t end, Payload &out,
+                           const uint8_t *ip, IpFragment *fragment) {
     for (int hops = 0; hops < 32; ++hops) {
         switch (next) {
         case 17:
@@ -78,10 +87,24 @@ FrameResult ipv6(const uint8_t *p, size_t n, Payload &out) {
             next = p[off];
             off += (static_cast<size_t>(p[off + 1]) + 2) * 4;
             break;
-        case 44: {  // fragment: only an atomic fragment (offset 0, no more) is whole
-            if (off + 8 > end) return FrameResult::Truncated;
+        case 44: {  // fragment: an atomic fragment (offset 0, no more) is whole
+            if (off + 8 > end || !ip) return FrameResult::Truncated;
             const uint16_t fo = be16(p + off + 2);
-            if ((fo & 0xFFF8) != 0 || (fo & 0x0001) != 0) return FrameResult::Fragment;
+            if ((fo & 0xFFF8) != 0 || (fo & 0x0001) != 0) {
+                if (fragment) {
+                    *fragment = IpFragment{};
+                    fragment->version = 6;
+                    fragment->protocol = p[off];
+                    fragment->id = static_cast<uint32_t>(be16(p + off + 4)) << 16 | be16(p + off + 6);
+                    std::memcpy(fragment->source, ip + 8, 16);
+                    std::memcpy(fragment->destination, ip + 24, 16);
+                    fragment->offset = fo & 0xFFF8;
+                    fragment->more = (fo & 0x0001) != 0;
+                    fragment->data = p + off + 8;
+                    fragment->size = end - off - 8;
+                }
+                return FrameResult::Fragment;
+            }
             next = p[off];
             off += 8;
             break;
@@ -94,26 +117,36 @@ FrameResult ipv6(const uint8_t *p, size_t n, Payload &out) {
     return FrameResult::NotUdp;
 }
 
-FrameResult ip(const uint8_t *p, size_t n, Payload &out) {
+FrameResult ipv6(const uint8_t *p, size_t n, Payload &out, IpFragment *fragment) {
+    if (n < 40) return FrameResult::Truncated;
+    const size_t payload = be16(p + 4);
+    size_t end = 40 + payload;
+    if (payload == 0) end = n;  // jumbogram: the length is in an option
+    if (end > n) return FrameResult::Truncated;
+    return ipv6_transport(p[6], p, 40, end, out, p, fragment);
+}
+
+FrameResult ip(const uint8_t *p, size_t n, Payload &out, IpFragment *fragment) {
     if (n < 1) return FrameResult::Truncated;
     switch (p[0] >> 4) {
     case 4:
-        return ipv4(p, n, out);
+        return ipv4(p, n, out, fragment);
     case 6:
-        return ipv6(p, n, out);
+        return ipv6(p, n, out, fragment);
     default:
         return FrameResult::NotUdp;
     }
 }
 
 // The network layer behind an EtherType, skipping VLAN tags.
-FrameResult by_ethertype(uint16_t type, const uint8_t *p, size_t off, size_t n, Payload &out) {
+FrameResult by_ethertype(uint16_t type, const uint8_t *p, size_t off, size_t n, Payload &out,
+                         IpFragment *fragment) {
     while (type == 0x8100 || type == 0x88A8 || type == 0x9100) {
         if (off + 4 > n) return FrameResult::Truncated;
         type = be16(p + off + 2);
         off += 4;
     }
-    if (type == 0x0800 || type == 0x86DD) return ip(p + off, n - off, out);
+    if (type == 0x0800 || type == 0x86DD) return ip(p + off, n - off, out, fragment);
     return FrameResult::NotUdp;
 }
 
@@ -136,32 +169,39 @@ bool linktype_supported(int linktype) {
     }
 }
 
-FrameResult udp_payload(int linktype, const uint8_t *frame, size_t caplen, Payload &out) {
+FrameResult udp_payload(int linktype, const uint8_t *frame, size_t caplen, Payload &out, IpFragment *fragment) {
     out = Payload{};
     switch (linktype) {
     case DLT_EN10MB:
         if (caplen < 14) return FrameResult::Truncated;
-        return by_ethertype(be16(frame + 12), frame, 14, caplen, out);
+        return by_ethertype(be16(frame + 12), frame, 14, caplen, out, fragment);
     case kDltLinuxSll:
         if (caplen < 16) return FrameResult::Truncated;
-        return by_ethertype(be16(frame + 14), frame, 16, caplen, out);
+        return by_ethertype(be16(frame + 14), frame, 16, caplen, out, fragment);
     case kDltLinuxSll2:
         if (caplen < 20) return FrameResult::Truncated;
-        return by_ethertype(be16(frame), frame, 20, caplen, out);
+        return by_ethertype(be16(frame), frame, 20, caplen, out, fragment);
     case DLT_NULL:
     case kDltLoop:
         // A 4-octet address family (host or network order, and its values
         // differ between systems): the IP version nibble tells enough.
         if (caplen < 4) return FrameResult::Truncated;
-        return ip(frame + 4, caplen - 4, out);
+        return ip(frame + 4, caplen - 4, out, fragment);
     case kDltIpv4:
     case kDltIpv6:
     case DLT_RAW:
     case kLinktypeRaw:
-        return ip(frame, caplen, out);
+        return ip(frame, caplen, out, fragment);
     default:
         return FrameResult::NotUdp;
     }
+}
+
+FrameResult reassembled_udp(uint8_t version, uint8_t protocol, const uint8_t *data, size_t size, Payload &out) {
+    out = Payload{};
+    if (version == 6) return ipv6_transport(protocol, data, 0, size, out, nullptr, nullptr);
+    if (protocol != 17) return FrameResult::NotUdp;
+    return udp(data, size, out);
 }
 
 bool read_capture(std::FILE *file, const ChunkSink &sink, CaptureStats &stats, std::string &error,
@@ -181,13 +221,29 @@ bool read_capture(std::FILE *file, const ChunkSink &sink, CaptureStats &stats, s
         pcap_close(pcap);
         return false;
     }
+    Reassembler fragments;
+    IpFragment fragment;
     pcap_pkthdr *header = nullptr;
     const u_char *data = nullptr;
     int rc;
     while ((rc = pcap_next_ex(pcap, &header, &data)) == 1) {
         ++stats.packets;
         Payload payload;
-        switch (udp_payload(stats.linktype, data, header->caplen, payload)) {
+        FrameResult result = udp_payload(stats.linktype, data, header->caplen, payload, &fragment);
+        if (result == FrameResult::Fragment) {
+            // A whole datagram comes out of its last fragment to arrive.
+            ++stats.fragments;
+            if (fragments.add(fragment) == FragmentResult::Complete) {
+                ++stats.reassembled;
+                result = reassembled_udp(fragments.version(), fragments.protocol(), fragments.datagram().data(),
+                                         fragments.datagram().size(), payload);
+                if (result == FrameResult::Fragment) result = FrameResult::Truncated;
+                // The addresses are those of the fragments' IP headers.
+                if (result == FrameResult::Udp)
+                    set_addresses(payload, fragments.version(), fragment.source, fragment.destination);
+            }
+        }
+        switch (result) {
         case FrameResult::Udp: {
             ++stats.udp;
             Chunk chunk;
@@ -198,6 +254,7 @@ bool read_capture(std::FILE *file, const ChunkSink &sink, CaptureStats &stats, s
             chunk.src = payload.src;
             chunk.dst = payload.dst;
             if (!sink(chunk)) {
+                stats.fragments_incomplete = fragments.pending();
                 pcap_close(pcap);
                 return true;
             }
@@ -207,7 +264,6 @@ bool read_capture(std::FILE *file, const ChunkSink &sink, CaptureStats &stats, s
             ++stats.not_udp;
             break;
         case FrameResult::Fragment:
-            ++stats.fragments;
             break;
         case FrameResult::Truncated:
             ++stats.truncated;
@@ -218,6 +274,9 @@ bool read_capture(std::FILE *file, const ChunkSink &sink, CaptureStats &stats, s
             if (pos >= 0) progress(static_cast<uint64_t>(pos));
         }
     }
+    stats.fragments_refused = fragments.refused();
+    stats.fragments_evicted = fragments.evicted();
+    stats.fragments_incomplete = fragments.pending();
     if (rc == PCAP_ERROR) error = pcap_geterr(pcap);
     pcap_close(pcap);
     return true;

@@ -222,8 +222,15 @@ bool DecodeSession::decode_capture(const std::string &name, std::FILE *file) {
     }
     stats_.add_capture(capture);
     if (!error.empty()) message(name, "capture ends early: " + error);
-    if (capture.fragments)
-        message(name, std::to_string(capture.fragments) + " IP fragments skipped (fragments are not reassembled)");
+    if (capture.fragments_refused)
+        message(name, std::to_string(capture.fragments_refused) +
+                          " fragmented datagrams given up: overlapping or inconsistent fragments");
+    if (capture.fragments_evicted)
+        message(name, std::to_string(capture.fragments_evicted) +
+                          " fragmented datagrams given up: too many waiting for their fragments at once");
+    if (capture.fragments_incomplete)
+        message(name, std::to_string(capture.fragments_incomplete) +
+                          " fragmented datagrams incomplete at the end of the capture");
     if (capture.truncated)
         message(name, std::to_string(capture.truncated) + " packets skipped: cut short by the capture or malformed");
     if (capture.udp == 0 && capture.packets > 0) message(name, "no UDP datagram in the capture");

@@ -127,6 +127,10 @@ void Stats::add_capture(const CaptureStats &s) {
     capture.udp += s.udp;
     capture.not_udp += s.not_udp;
     capture.fragments += s.fragments;
+    capture.reassembled += s.reassembled;
+    capture.fragments_refused += s.fragments_refused;
+    capture.fragments_evicted += s.fragments_evicted;
+    capture.fragments_incomplete += s.fragments_incomplete;
     capture.truncated += s.truncated;
 }
 
@@ -136,9 +140,11 @@ void Stats::print(std::FILE *out, double seconds) const {
     std::fprintf(out, "  inputs          %llu (%llu unreadable)\n", u(inputs), u(unreadable));
     if (any_capture)
         std::fprintf(out,
-                     "  packets         %llu read, %llu UDP, %llu other, %llu IP fragments skipped, "
-                     "%llu truncated\n",
+                     "  packets         %llu read, %llu UDP, %llu other, %llu IP fragments (%llu datagrams "
+                     "reassembled, %llu given up), %llu truncated\n",
                      u(capture.packets), u(capture.udp), u(capture.not_udp), u(capture.fragments),
+                     u(capture.reassembled),
+                     u(capture.fragments_refused + capture.fragments_evicted + capture.fragments_incomplete),
                      u(capture.truncated));
     std::fprintf(out, "  blocks          %llu\n", u(blocks));
     std::fprintf(out, "  invalid blocks  %llu\n", u(invalid));
@@ -194,6 +200,9 @@ void Stats::print_json(std::FILE *out, double seconds) const {
     if (any_capture)
         j["packets"] = {{"read", capture.packets},         {"udp", capture.udp},
                         {"other", capture.not_udp},        {"fragments", capture.fragments},
+                        {"reassembled", capture.reassembled},
+                        {"fragments_given_up",
+                         capture.fragments_refused + capture.fragments_evicted + capture.fragments_incomplete},
                         {"truncated", capture.truncated}};
     j["blocks"] = blocks;
     j["invalid_blocks"] = invalid;
