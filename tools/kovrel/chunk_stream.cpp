@@ -7,6 +7,9 @@ namespace kovrel_tool {
 namespace {
 
 constexpr size_t kBlockHeader = 3;
+// Octets held at most while looking for a good frame after bad octets
+// (a frame is at most 64 KiB).
+constexpr size_t kResyncWindow = 256 * 1024;
 
 size_t be16(const uint8_t *p) { return static_cast<size_t>(p[0]) << 8 | p[1]; }
 
@@ -102,12 +105,15 @@ bool ChunkStream::next_framed(Piece &piece) {
     Frame frame;
     const char *why = "";
     const FrameStatus status = read_frame(framing_, d + pos_, size_ - pos_, frame, &why);
+    std::string long_frame;
     if (status == FrameStatus::NeedMore) {
         if (!finished_) return false;
-        std::string text = "the input ends inside a frame";
-        if (frame.size) text += " (" + std::to_string(size_ - pos_) + " of its " + std::to_string(frame.size) + " octets)";
-        skip(piece, size_ - pos_, text);
-        return true;
+        if (frame.size == 0) {
+            skip(piece, size_ - pos_, "the input ends inside a frame header");
+            return true;
+        }
+        long_frame = "frame length " + std::to_string(frame.size) + " runs past the end of the input";
+        why = long_frame.c_str();
     }
     if (status == FrameStatus::Whole && !blocks_fill(d + pos_ + frame.header, frame.payload)) {
         if (strict_) {
@@ -129,13 +135,19 @@ bool ChunkStream::next_framed(Piece &piece) {
         why = nullptr;
     }
     if (why) {
-        // Look for the next frame that checks out.
-        size_t j = pos_ + 1;
+        // Look for the next frame that checks out; failing that, wait at
+        // the first one that may be whole once more octets arrive.
+        size_t j = pos_ + 1, wait_at = size_;
         for (; j < size_; ++j) {
             Frame candidate;
             const FrameStatus s = read_frame(framing_, d + j, size_ - j, candidate, nullptr);
-            if (s == FrameStatus::NeedMore && !finished_) break;
+            if (s == FrameStatus::NeedMore && wait_at == size_) wait_at = j;
             if (s == FrameStatus::Whole && blocks_fill(d + j + candidate.header, candidate.payload)) break;
+        }
+        if (j == size_ && !finished_) {
+            // More octets may show a frame: wait for them, up to a bound.
+            if (size_ - pos_ < kResyncWindow) return false;
+            j = wait_at;
         }
         skip(piece, j - pos_, std::string("frame header at ") + format_location(here(pos_)) + ": " + why);
         strict_ = true;
