@@ -100,6 +100,78 @@ TEST(ToolInput, HexTextErrorsNameTheLine) {
     EXPECT_FALSE(parse_hex("0x123\n", out, error));  // prefixed, but neither one digit nor pairs
 }
 
+TEST(ToolInput, HexDumpsOfCommonTools) {
+    struct Case {
+        const char *what;
+        std::string text;
+        Octets octets;      // read before the first bad line
+        const char *error;  // "" when the whole text is read
+    };
+    const Case cases[] = {
+        {"colon-separated octets", "30:00:06\n80:19:01\n", {0x30, 0x00, 0x06, 0x80, 0x19, 0x01}, ""},
+        // xxd: the offset column and the ASCII column (which may hold hex
+        // digits, blanks and '#') are left out; the last line is short.
+        {"xxd", "00000000: 3000 0980 1901 8019  0...ab # .\n00000008: 02                    .\n",
+         {0x30, 0x00, 0x09, 0x80, 0x19, 0x01, 0x80, 0x19, 0x02}, ""},
+        {"xxd -g1", "00000000: 30 00 06 80 19 01  0.....\n", {0x30, 0x00, 0x06, 0x80, 0x19, 0x01}, ""},
+        {"hexdump -C, closing offset line",
+         "00000000  30 00 06 80 19 01 30 00  06 80 19 02              |0.....0.....|\n0000000c\n",
+         {0x30, 0x00, 0x06, 0x80, 0x19, 0x01, 0x30, 0x00, 0x06, 0x80, 0x19, 0x02}, ""},
+        {"hexdump -C with lines left out",
+         "00000000  30 00 03 30 00 03 30 00  03 30 00 03 30 00 03 30  |0..0..0..0..0..0|\n*\n00000020\n",
+         {0x30, 0x00, 0x03, 0x30, 0x00, 0x03, 0x30, 0x00, 0x03, 0x30, 0x00, 0x03, 0x30, 0x00, 0x03, 0x30},
+         "line 2: \"*\": repeated lines are left out of this dump (hexdump -v prints them)"},
+        {"xxd then a line that is not", "00000000: 3000 03  0..\n30 00 03\n", {0x30, 0x00, 0x03},
+         "line 2: \"30\": not a line of xxd output (no offset column)"},
+        {"od", "0000000 000060 100006 000431\n0000006\n", {},
+         "line 1: \"0000000\": looks like od or hexdump output (offset column, words): dump with xxd, hexdump -C "
+         "or od -An -tx1"},
+        {"hexdump without -C", "0000000 0030 8006 0119\n", {},
+         "line 1: \"0000000\": looks like od or hexdump output (offset column, words): dump with xxd, hexdump -C "
+         "or od -An -tx1"},
+        {"od -An -tx1", " 30 00 06 80 19 01\n", {0x30, 0x00, 0x06, 0x80, 0x19, 0x01}, ""},
+        {"plain, a comment after the octets", "30 00 03 # 30 00\n", {0x30, 0x00, 0x03}, ""},
+    };
+    for (const Case &c : cases) {
+        std::vector<uint8_t> out;
+        std::string error;
+        EXPECT_EQ(parse_hex(c.text, out, error), *c.error == 0) << c.what;
+        EXPECT_EQ(error, c.error) << c.what;
+        EXPECT_EQ(out, c.octets) << c.what;
+        EXPECT_EQ(kind_of(c.text), InputKind::Hex) << c.what;
+    }
+}
+
+TEST(ToolInput, HexTextInPieces) {
+    // The octets of a line come out once its end has arrived; a line cut
+    // anywhere, a last line without its end and a line longer than the
+    // reader keeps read the same as at once.
+    const std::string text = "00000000: 3000 0680 1901  0.....\n00000006: 3000 03  0..";
+    HexReader reader;
+    std::vector<uint8_t> out;
+    for (char c : text) ASSERT_TRUE(reader.feed(std::string_view(&c, 1), out));
+    EXPECT_EQ(out.size(), 6u);
+    ASSERT_TRUE(reader.finish(out));
+    EXPECT_EQ(out, (Octets{0x30, 0x00, 0x06, 0x80, 0x19, 0x01, 0x30, 0x00, 0x03}));
+
+    std::string long_line;
+    for (int i = 0; i < 40000; ++i) long_line += "30 00 03 ";
+    long_line += "zz\n";
+    HexReader big;
+    out.clear();
+    for (size_t i = 0; i < long_line.size(); i += 4096)
+        big.feed(std::string_view(long_line).substr(i, 4096), out);
+    EXPECT_FALSE(big.finish(out));
+    EXPECT_EQ(big.error(), "line 1: \"zz\": 'z' is not a hexadecimal digit");
+    EXPECT_EQ(out.size(), 120000u);
+    HexReader endless;  // digits run together, no separator at all
+    out.clear();
+    const std::string digits(200000, 'a');
+    for (size_t i = 0; i < digits.size(); i += 777) endless.feed(std::string_view(digits).substr(i, 777), out);
+    EXPECT_TRUE(endless.finish(out));
+    EXPECT_EQ(out, Octets(100000, 0xAA));
+}
+
 TEST(ToolInput, UdpPayloadOverEthernetAndVlan) {
     const Octets data = {'a', 's', 't'};
     Payload p;
