@@ -97,4 +97,129 @@ ToolRun run_tool(const std::vector<std::string> &args, const std::string &input,
     return run;
 }
 
+ToolProcess::ToolProcess(const std::vector<std::string> &args) {
+#ifdef KOVREL_TOOL_BINARY
+    int in[2], out[2], err[2];
+    if (pipe2(in, O_CLOEXEC) != 0) return;
+    if (pipe2(out, O_CLOEXEC) != 0 || pipe2(err, O_CLOEXEC) != 0) return;
+    const pid_t pid = fork();
+    if (pid < 0) return;
+    if (pid == 0) {
+        dup2(in[0], 0);
+        dup2(out[1], 1);
+        dup2(err[1], 2);
+        std::vector<char *> argv;
+        argv.push_back(const_cast<char *>(KOVREL_TOOL_BINARY));
+        for (const auto &a : args) argv.push_back(const_cast<char *>(a.c_str()));
+        argv.push_back(nullptr);
+        execv(KOVREL_TOOL_BINARY, argv.data());
+        _exit(127);
+    }
+    close(in[0]);
+    close(out[1]);
+    close(err[1]);
+    signal(SIGPIPE, SIG_IGN);
+    pid_ = pid;
+    in_ = in[1];
+    out_ = out[0];
+    err_ = err[0];
+#else
+    (void)args;
+#endif
+}
+
+ToolProcess::~ToolProcess() {
+    if (pid_ > 0) {
+        kill(pid_, SIGKILL);
+        waitpid(pid_, nullptr, 0);
+    }
+    for (int fd : {in_, out_, err_})
+        if (fd >= 0) close(fd);
+}
+
+bool ToolProcess::write(const std::string &octets) {
+    size_t sent = 0;
+    while (in_ >= 0 && sent < octets.size()) {
+        const ssize_t n = ::write(in_, octets.data() + sent, octets.size() - sent);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        sent += static_cast<size_t>(n);
+    }
+    return sent == octets.size();
+}
+
+void ToolProcess::close_input() {
+    if (in_ >= 0) close(in_);
+    in_ = -1;
+}
+
+void ToolProcess::send_signal(int sig) {
+    if (pid_ > 0) kill(pid_, sig);
+}
+
+bool ToolProcess::pump(int timeout_ms) {
+    pollfd fds[2] = {{out_, POLLIN, 0}, {err_, POLLIN, 0}};
+    if (poll(fds, 2, timeout_ms) <= 0) return false;
+    bool got = false;
+    char buf[65536];
+    for (int i = 0; i < 2; ++i) {
+        if (!(fds[i].revents & (POLLIN | POLLHUP | POLLERR))) continue;
+        int &fd = i == 0 ? out_ : err_;
+        const ssize_t n = read(fd, buf, sizeof buf);
+        if (n > 0) {
+            (i == 0 ? out_buf_ : err_buf_).append(buf, static_cast<size_t>(n));
+            got = true;
+        } else {
+            close(fd);
+            fd = -1;
+        }
+    }
+    return got;
+}
+
+bool ToolProcess::read_line(std::string &line, int timeout_ms) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeout_ms);
+    for (;;) {
+        const size_t end = out_buf_.find('\n');
+        if (end != std::string::npos) {
+            line = out_buf_.substr(0, end);
+            out_buf_.erase(0, end + 1);
+            return true;
+        }
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0 || (out_ < 0 && err_ < 0)) return false;
+        pump(static_cast<int>(left.count()));
+    }
+}
+
+ToolRun ToolProcess::finish(int timeout_seconds) {
+    ToolRun run;
+    close_input();
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(timeout_seconds);
+    bool killed = false;
+    while (out_ >= 0 || err_ >= 0) {
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0) {
+            if (pid_ > 0) kill(pid_, SIGKILL);
+            killed = true;
+            break;
+        }
+        pump(static_cast<int>(left.count()));
+    }
+    int status = 0;
+    if (pid_ > 0) waitpid(pid_, &status, 0);
+    pid_ = -1;
+    if (killed)
+        run.status = 128 + SIGKILL;
+    else if (WIFEXITED(status))
+        run.status = WEXITSTATUS(status);
+    else if (WIFSIGNALED(status))
+        run.status = 128 + WTERMSIG(status);
+    run.out = std::move(out_buf_);
+    run.err = std::move(err_buf_);
+    return run;
+}
+
 }  // namespace kovrel_test

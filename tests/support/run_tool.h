@@ -21,4 +21,33 @@ bool tool_available();
 // `timeout_seconds` for it (then kills it; status 128 + SIGKILL).
 ToolRun run_tool(const std::vector<std::string> &args, const std::string &input = {}, int timeout_seconds = 60);
 
+// A `kovrel` that runs while the test feeds its standard input piece by
+// piece and reads its output as it comes (for inputs that stream).
+class ToolProcess {
+public:
+    explicit ToolProcess(const std::vector<std::string> &args);
+    ~ToolProcess();  // kills the tool if it still runs
+    ToolProcess(const ToolProcess &) = delete;
+    ToolProcess &operator=(const ToolProcess &) = delete;
+
+    bool running() const { return pid_ > 0; }
+    // Writes octets to the tool's standard input; false when it cannot.
+    bool write(const std::string &octets);
+    void close_input();
+    // The next line of standard output (without its end), waiting at most
+    // timeout_ms for it; false when none came.
+    bool read_line(std::string &line, int timeout_ms);
+    void send_signal(int signal);
+    // Waits for the tool to end (killing it after timeout_seconds): exit
+    // status, the rest of standard output and all of standard error.
+    ToolRun finish(int timeout_seconds = 30);
+
+private:
+    bool pump(int timeout_ms);  // reads what is there; false when nothing came
+
+    int pid_ = -1;
+    int in_ = -1, out_ = -1, err_ = -1;
+    std::string out_buf_, err_buf_;
+};
+
 }  // namespace kovrel_test

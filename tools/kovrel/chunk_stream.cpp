@@ -120,16 +120,17 @@ bool ChunkStream::next_framed(Piece &piece) {
             why = "no frame header";
         } else {
             // A frame whose blocks do not fill it holds a bad block, or its
-            // header lies about the length: believe the header when another
-            // frame header (or the end of the input) follows it.
+            // header lies about the length: believe the header when a good
+            // frame (or the end of the input) follows it.
             const size_t next = pos_ + frame.size;
-            const size_t header = frame_header_size(framing_);
-            if (next + header > size_ && !finished_) return false;
             Frame following;
-            if (next < size_ && read_frame(framing_, d + next, size_ - next, following, nullptr) == FrameStatus::Bad)
-                why = "frame length does not match its blocks, and no frame follows it";
-            else
+            const FrameStatus then =
+                next < size_ ? read_frame(framing_, d + next, size_ - next, following, nullptr) : FrameStatus::NeedMore;
+            if (then == FrameStatus::NeedMore && !finished_) return false;
+            if ((next == size_ && finished_) || frame_checks_out(framing_, d + next, size_ - next, following))
                 why = nullptr;
+            else
+                why = "frame length does not match its blocks, and no frame follows it";
         }
     } else if (status == FrameStatus::Whole) {
         why = nullptr;

@@ -10,7 +10,7 @@ namespace kovrel_tool {
 namespace {
 
 constexpr size_t kHead = 64 * 1024;    // octets looked at to tell the kind of an input
-constexpr size_t kEnough = 4 * 1024;   // ... unless the input pauses after this many
+constexpr size_t kEnough = 1;          // ... unless the input pauses after this many
 constexpr size_t kPiece = 64 * 1024;   // octets read at a time
 
 }  // namespace
@@ -103,7 +103,12 @@ bool DecodeSession::decode_stream(const std::string &name, int fd) {
     ++stats_.inputs;
     block_no_ = 0;
     if (settings_.follow) follow_signals();
-    StreamSource source(fd, settings_.follow, [this] { flush(); });
+    // Whenever the input makes us wait, the records decoded so far go out
+    // (through stdio's buffer too), so that a reader down a pipe sees them.
+    StreamSource source(fd, settings_.follow, [this] {
+        flush();
+        if (!output_failed_ && out_) std::fflush(out_);
+    });
     std::string error;
     const bool ok = source.read_head(kHead, kEnough, error);
     if (!ok && source.head().empty()) {
