@@ -3,7 +3,7 @@
 #   make test   build and run every test (plain, then ASan+UBSan, exports)
 #   make bench  build and run the benchmarks, then time the kovrel tool on a large recording
 #               and measure its live UDP input capacity
-#   make fuzz   build the libFuzzer target with clang and run it for FUZZ_SECONDS (60)
+#   make fuzz   build the libFuzzer targets with clang; run decode_fuzz for FUZZ_SECONDS (60), framing_fuzz a third of it
 #   make python build the Python package into $(BUILD)/python (its tests run with make test)
 
 BUILD      ?= build
@@ -63,6 +63,9 @@ fuzz: deps
 	mkdir -p $(FUZZ_BUILD)/corpus
 	$(FUZZ_BUILD)/fuzz/decode_fuzz -max_total_time=$(FUZZ_SECONDS) -max_len=2048 -print_final_stats=1 \
 	  $(FUZZ_BUILD)/corpus fuzz/seeds
+	mkdir -p $(FUZZ_BUILD)/corpus_framing
+	$(FUZZ_BUILD)/fuzz/framing_fuzz -max_total_time=$$(( $(FUZZ_SECONDS) / 3 + 1 )) -max_len=4096 -print_final_stats=1 \
+	  $(FUZZ_BUILD)/corpus_framing fuzz/seeds_framing
 
 install: build
 	cmake --install $(BUILD)

@@ -145,10 +145,11 @@ bool ChunkStream::next_framed(Piece &piece) {
             if (s == FrameStatus::NeedMore && wait_at == size_) wait_at = j;
             if (s == FrameStatus::Whole && blocks_fill(d + j + candidate.header, candidate.payload)) break;
         }
-        if (j == size_ && !finished_) {
-            // More octets may show a frame: wait for them, up to a bound.
+        if (wait_at < j && !finished_) {
+            // A frame may start before the one found (or before the end),
+            // once more octets arrive: wait for them, up to a bound.
             if (size_ - pos_ < kResyncWindow) return false;
-            j = wait_at;
+            if (j == size_) j = wait_at;
         }
         skip(piece, j - pos_, std::string("frame header at ") + format_location(here(pos_)) + ": " + why);
         strict_ = true;

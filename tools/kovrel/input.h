@@ -168,6 +168,10 @@ FrameResult udp_payload(int linktype, const uint8_t *frame, size_t caplen, Paylo
 // or 6, the protocol or next header of its fragments, its payload).
 FrameResult reassembled_udp(uint8_t version, uint8_t protocol, const uint8_t *data, size_t size, Payload &out);
 
+// Sets the addresses of a payload (family 4 or 6; the address octets of an
+// IP header; the ports stay as the UDP header gave them).
+void set_payload_addresses(Payload &out, uint8_t family, const uint8_t *src, const uint8_t *dst);
+
 // Reads a pcap or pcapng capture through libpcap and hands every UDP
 // payload to sink (location: packet number, offset 0) until the sink
 // returns false. Fragmented datagrams are put together (at most 64 at a
