@@ -11,8 +11,9 @@ namespace {
 void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
     app->add_option("--format", o.format,
                     "text (the default): one line per record; json: one JSON object per record (JSON Lines): "
-                    "input, block, offset, packet and time (captures; rx_time, the receive time, for live input), src and dst (their "
-                    "addresses), cat, uap, record, length, item_count, valid, "
+                    "input, block, offset, packet and time (captures and framings with a time stamp; rx_time, the "
+                    "receive time, for live input), src and dst (their addresses), cat, uap, record, length, "
+                    "item_count, valid, "
                     "block_valid, a \"fields\" object (sac, sic, tod, msgtype, track, mode3a, fl, sel_alt, callsign, "
                     "icao, lat, lon, rho, theta, speed, heading, vx, vy, vrate: those the record has) and \"items\" "
                     "(id, name, len, hex, summary and the item's own \"fields\" when the library describes them); "
@@ -82,12 +83,14 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                   "at the end of a file or pipe wait for more, like tail -f, until Ctrl-C (SIGINT) or SIGTERM; "
                   "then the rest is decoded and --stats printed");
     app->add_option("files", o.files,
-                    "pcap, pcapng, raw data blocks or hexadecimal text (\"-\": standard input); "
+                    "pcap, pcapng, raw data blocks (plain or in a recorder framing) or hexadecimal text (also "
+                    "xxd and hexdump -C output) (\"-\": standard input; pipes are decoded as they arrive); "
                     "none: the built-in sample recording; or live UDP input, "
                     "udp://[SOURCE@]ADDRESS:PORT[?iface=NAME] (several may be given, not mixed with files)");
     app->footer(
         "Inputs are told apart by their content. Text lines read: block number, block location (\"@N\": "
-        "octet N of a raw or hex input; \"pkt P+N\": octet N of the UDP payload of packet P), category, "
+        "octet N of a raw or hex input; \"pkt P+N\": octet N of the UDP payload of packet P, or of frame P of a "
+        "recorder framing with a time stamp), category, "
         "profile, record number, record length, item count, valid, then SAC and SIC, time of day, message type "
         "and callsign (or Mode 3/A code) when the record has them. Bad blocks are reported on standard error "
         "(and, with html, on the page where they occur) and decoding goes on. CSV cells are quoted as RFC 4180 "
