@@ -75,7 +75,7 @@ bool ChunkStream::next_plain(Piece &piece) {
     const uint8_t *d = data();
     size_t p = pos_;
     bool bad_len = false;
-    while (size_ - p >= kBlockHeader) {
+    while (size_ - p >= kBlockHeader && p - pos_ < max_chunk_) {
         const size_t len = be16(d + p + 1);
         if (len < kBlockHeader) {
             bad_len = true;

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -53,6 +54,14 @@ public:
     // finish(), when everything came out).
     bool next(Piece &piece);
 
+    // Plain blocks: hand on at most about this many octets a chunk (whole
+    // blocks still; one block may exceed it).
+    void limit_chunks(size_t octets) { max_chunk_ = octets ? octets : SIZE_MAX; }
+
+    // Octets handed on (or skipped) so far, counted from the first octet
+    // held: for octets in memory, the offset of the next piece.
+    size_t position() const { return pos_; }
+
     // Octets taken in so far.
     uint64_t received() const { return base_ + size_; }
     // Octets held while waiting for the rest of a block or frame.
@@ -74,6 +83,7 @@ private:
     uint64_t packet_ = 0;
     double time_ = 0;
     uint64_t frames_ = 0;
+    size_t max_chunk_ = SIZE_MAX;
     bool finished_ = false;
     bool lost_ = false;    // plain: a LEN below 3 left the next block unknown
     uint64_t lost_octets_ = 0;  // octets received after that

@@ -144,7 +144,7 @@ bool DecodeSession::decode_file(const std::string &path) {
             unreadable(path, std::string("cannot read: ") + std::strerror(errno));
             return false;
         }
-        return decode_stream(path, fd);
+        return decode_stream(path, fd, total);
     }
 
     // A regular file is mapped rather than read: the blocks are decoded
@@ -247,14 +247,18 @@ void DecodeSession::decode_octets(const std::string &name, InputKind kind, const
         size = parsed.size();
     }
     const Framing framing = framing_of(data, size < kHead ? size : kHead, size <= kHead);
-    if (framing == Framing::None) {
+    if (framing == Framing::None && read_first_) {
         Chunk chunk;
         chunk.data = data;
         chunk.size = size;
         decode_chunk(name, chunk, true);
     } else {
-        ChunkStream frames(framing, data, size);
-        decode_pieces(name, frames);
+        ChunkStream pieces(framing, data, size);
+        // A mapped file is decoded in windows of whole blocks, each given
+        // back to the system once decoded: memory stays flat however
+        // large the file.
+        pieces.limit_chunks(16u << 20);
+        decode_pieces(name, pieces, read_first_ ? nullptr : data);
     }
     flush();
 }

@@ -105,11 +105,14 @@ public:
     std::function<void()> before_message;
 
 private:
-    bool decode_stream(const std::string &name, int fd);
+    // Decodes what a descriptor delivers as it arrives (total: its size
+    // when known, for progress; 0 otherwise). Closes fd unless it is 0.
+    bool decode_stream(const std::string &name, int fd, uint64_t total = 0);
     bool decode_capture(const std::string &name, std::FILE *file);
     void decode_octets(const std::string &name, InputKind kind, const uint8_t *data, size_t size);
-    // Decodes the pieces a stream has ready.
-    void decode_pieces(const std::string &name, ChunkStream &stream);
+    // Decodes the pieces a stream has ready. mapped: the stream's octets
+    // are a mapped file, whose pages are given back as they are decoded.
+    void decode_pieces(const std::string &name, ChunkStream &stream, const uint8_t *mapped = nullptr);
     // Octets of raw input: the framing to read them with.
     Framing framing_of(const uint8_t *head, size_t size, bool at_end) const;
     // A UDP payload, plain or framed.

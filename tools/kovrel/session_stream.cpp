@@ -1,6 +1,7 @@
 // DecodeSession: inputs decoded as they are read, and recorder framings.
 #include <cerrno>
 #include <cstring>
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include "input_stream.h"
@@ -20,11 +21,23 @@ Framing DecodeSession::framing_of(const uint8_t *head, size_t size, bool at_end)
     return detect_framing(head, size, at_end);
 }
 
-void DecodeSession::decode_pieces(const std::string &name, ChunkStream &stream) {
+void DecodeSession::decode_pieces(const std::string &name, ChunkStream &stream, const uint8_t *mapped) {
     Piece piece;
+    const size_t page = static_cast<size_t>(sysconf(_SC_PAGESIZE));
+    size_t released = 0;
+    auto release = [&] {
+        // Everything before the next piece is decoded.
+        if (on_progress) on_progress(stream.position());
+        const size_t upto = stream.position() / page * page;
+        if (upto >= released + (1u << 20)) {
+            madvise(const_cast<uint8_t *>(mapped) + released, upto - released, MADV_DONTNEED);
+            released = upto;
+        }
+    };
     while (!output_failed_ && stream.next(piece)) {
         if (piece.kind == Piece::Kind::Blocks) {
             decode_chunk(name, piece.chunk, false);
+            if (mapped) release();
             continue;
         }
         message(name, std::to_string(piece.skipped) + " octets from " + format_location(piece.where) +
@@ -99,7 +112,7 @@ void DecodeSession::stream_hex(const std::string &name, StreamSource &source) {
     }
 }
 
-bool DecodeSession::decode_stream(const std::string &name, int fd) {
+bool DecodeSession::decode_stream(const std::string &name, int fd, uint64_t total) {
     ++stats_.inputs;
     block_no_ = 0;
     if (settings_.follow) follow_signals();
@@ -116,8 +129,8 @@ bool DecodeSession::decode_stream(const std::string &name, int fd) {
         unreadable(name, "cannot read: " + error);
         return false;
     }
-    total_ = 0;
-    if (on_start) on_start(name, 0);
+    total_ = total;
+    if (on_start) on_start(name, total);
     if (source.head().empty()) {
         if (fd != STDIN_FILENO) close(fd);
         message(name, "empty input");
