@@ -58,6 +58,19 @@ void streams(Framing framing, size_t step, const uint8_t *data, size_t size) {
     }
     streamed.finish();
     take(streamed, pieces, nullptr, nullptr);
+    // In windows of a few blocks, as mapped files are read: the same blocks.
+    Taken windows;
+    ChunkStream windowed(framing, data, size, 0, 0);
+    windowed.limit_chunks(step * 8);
+    take(windowed, windows, data, data + size);
+    if (framing == Framing::None) {
+        std::vector<uint8_t> a, b;
+        for (const auto &c : whole.chunks) a.insert(a.end(), c.begin(), c.end());
+        for (const auto &c : windows.chunks) b.insert(b.end(), c.begin(), c.end());
+        check(a == b && windows.skipped == whole.skipped);
+    } else {
+        check(windows.chunks == whole.chunks);
+    }
     uint64_t octets = whole.skipped;
     for (const auto &c : whole.chunks) octets += c.size();
     check(octets <= size);
