@@ -10,6 +10,36 @@
 
 namespace kovrel_test {
 
+namespace {
+
+// Starts `kovrel args...` with pipes for its standard input, output and
+// error (the parent's ends are in[1], out[0], err[0]); the child's pid, or -1.
+pid_t spawn(const std::vector<std::string> &args, int in[2], int out[2], int err[2]) {
+#ifdef KOVREL_TOOL_BINARY
+    if (pipe2(in, O_CLOEXEC) != 0) return -1;
+    if (pipe2(out, O_CLOEXEC) != 0 || pipe2(err, O_CLOEXEC) != 0) return -1;
+    const pid_t pid = fork();
+    if (pid != 0) return pid;
+    dup2(in[0], 0);
+    dup2(out[1], 1);
+    dup2(err[1], 2);
+    std::vector<char *> argv;
+    argv.push_back(const_cast<char *>(KOVREL_TOOL_BINARY));
+    for (const auto &a : args) argv.push_back(const_cast<char *>(a.c_str()));
+    argv.push_back(nullptr);
+    execv(KOVREL_TOOL_BINARY, argv.data());
+    _exit(127);
+#else
+    (void)args;
+    (void)in;
+    (void)out;
+    (void)err;
+    return -1;
+#endif
+}
+
+}  // namespace
+
 bool tool_available() {
 #ifdef KOVREL_TOOL_BINARY
     return access(KOVREL_TOOL_BINARY, X_OK) == 0;
@@ -22,21 +52,8 @@ ToolRun run_tool(const std::vector<std::string> &args, const std::string &input,
     ToolRun run;
 #ifdef KOVREL_TOOL_BINARY
     int in[2], out[2], err[2];
-    if (pipe2(in, O_CLOEXEC) != 0) return run;
-    if (pipe2(out, O_CLOEXEC) != 0 || pipe2(err, O_CLOEXEC) != 0) return run;
-    const pid_t pid = fork();
+    const pid_t pid = spawn(args, in, out, err);
     if (pid < 0) return run;
-    if (pid == 0) {
-        dup2(in[0], 0);
-        dup2(out[1], 1);
-        dup2(err[1], 2);
-        std::vector<char *> argv;
-        argv.push_back(const_cast<char *>(KOVREL_TOOL_BINARY));
-        for (const auto &a : args) argv.push_back(const_cast<char *>(a.c_str()));
-        argv.push_back(nullptr);
-        execv(KOVREL_TOOL_BINARY, argv.data());
-        _exit(127);
-    }
     close(in[0]);
     close(out[1]);
     close(err[1]);
@@ -97,24 +114,10 @@ ToolRun run_tool(const std::vector<std::string> &args, const std::string &input,
     return run;
 }
 
-ToolProcess::ToolProcess(const std::vector<std::string> &args) {
-#ifdef KOVREL_TOOL_BINARY
+bool ToolProcess::start(const std::vector<std::string> &args) {
     int in[2], out[2], err[2];
-    if (pipe2(in, O_CLOEXEC) != 0) return;
-    if (pipe2(out, O_CLOEXEC) != 0 || pipe2(err, O_CLOEXEC) != 0) return;
-    const pid_t pid = fork();
-    if (pid < 0) return;
-    if (pid == 0) {
-        dup2(in[0], 0);
-        dup2(out[1], 1);
-        dup2(err[1], 2);
-        std::vector<char *> argv;
-        argv.push_back(const_cast<char *>(KOVREL_TOOL_BINARY));
-        for (const auto &a : args) argv.push_back(const_cast<char *>(a.c_str()));
-        argv.push_back(nullptr);
-        execv(KOVREL_TOOL_BINARY, argv.data());
-        _exit(127);
-    }
+    const pid_t pid = spawn(args, in, out, err);
+    if (pid < 0) return false;
     close(in[0]);
     close(out[1]);
     close(err[1]);
@@ -123,9 +126,18 @@ ToolProcess::ToolProcess(const std::vector<std::string> &args) {
     in_ = in[1];
     out_ = out[0];
     err_ = err[0];
-#else
-    (void)args;
-#endif
+    return true;
+}
+
+bool ToolProcess::wait_for_err(const std::string &text, int timeout_ms) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeout_ms);
+    while (err_buf_.find(text) == std::string::npos) {
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        if (left.count() <= 0 || (out_ < 0 && err_ < 0)) return false;
+        pump(static_cast<int>(left.count()));
+    }
+    return true;
 }
 
 ToolProcess::~ToolProcess() {

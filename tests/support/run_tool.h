@@ -25,11 +25,15 @@ ToolRun run_tool(const std::vector<std::string> &args, const std::string &input 
 // piece and reads its output as it comes (for inputs that stream).
 class ToolProcess {
 public:
-    explicit ToolProcess(const std::vector<std::string> &args);
+    ToolProcess() = default;
+    explicit ToolProcess(const std::vector<std::string> &args) { start(args); }
     ~ToolProcess();  // kills the tool if it still runs
     ToolProcess(const ToolProcess &) = delete;
     ToolProcess &operator=(const ToolProcess &) = delete;
 
+    // Starts `kovrel args...`; false when it cannot be started (or the tool
+    // is not built).
+    bool start(const std::vector<std::string> &args);
     bool running() const { return pid_ > 0; }
     // Writes octets to the tool's standard input; false when it cannot.
     bool write(const std::string &octets);
@@ -38,6 +42,11 @@ public:
     // timeout_ms for it; false when none came.
     bool read_line(std::string &line, int timeout_ms);
     void send_signal(int signal);
+    // Reads the tool's output until standard error holds `text`; false when
+    // the tool ends or timeout_ms passes first.
+    bool wait_for_err(const std::string &text, int timeout_ms);
+    // Standard error so far.
+    const std::string &err() const { return err_buf_; }
     // Waits for the tool to end (killing it after timeout_seconds): exit
     // status, the rest of standard output and all of standard error.
     ToolRun finish(int timeout_seconds = 30);

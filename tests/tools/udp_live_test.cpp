@@ -21,7 +21,7 @@
 #include <vector>
 
 #include "support/run_tool.h"
-#include "support/tool_process.h"
+#include "support/run_tool.h"
 #include "tools/capture_builder.h"
 
 using kovrel_test::run_tool;
@@ -204,7 +204,7 @@ TEST_F(UdpLive, DecodesDatagramsAsTheyArrive) {
             usleep(2000);
         }
         if (!why.empty() && c.multicast) {
-            tool.signal(SIGTERM);
+            tool.send_signal(SIGTERM);
             tool.finish(5);
             std::printf("skipped %s: lo does not carry the group here: %s\n", c.name, why.c_str());
             continue;
@@ -310,7 +310,7 @@ TEST_F(UdpLive, EndsOnSignalsAndTimeWithNothingReceived) {
         ToolProcess tool;
         ASSERT_TRUE(tool.start(c.args));
         ASSERT_TRUE(tool.wait_for_err("listening on", 5000)) << tool.err();
-        if (c.signal) tool.signal(c.signal);
+        if (c.signal) tool.send_signal(c.signal);
         const ToolRun run = tool.finish(10);
         EXPECT_EQ(run.status, 0) << run.err;
         EXPECT_NE(run.err.find(": nothing received\n"), std::string::npos) << run.err;
