@@ -166,6 +166,13 @@ int run_decode(const DecodeOptions &options) {
         return options.files[i] == "-" ? "(standard input)" : options.files[i];
     };
 
+    PageOptions page_options;
+    page_options.limit = options.html_limit;
+    page_options.settings = "profile " + options.uap;
+    for (const auto &f : options.filters) page_options.settings += ", --filter " + f;
+    for (const auto &c : options.categories) page_options.settings += ", --cat " + c;
+    if (!options.time.empty()) page_options.settings += ", --time " + options.time;
+
     int status = 0;
     int write_errno = 0;
     const auto started = std::chrono::steady_clock::now();
@@ -181,7 +188,7 @@ int run_decode(const DecodeOptions &options) {
             status = 1;
             break;
         }
-        write_page(session, page, input_name(i), [&] { decode(i); });
+        write_page(session, page, input_name(i), [&] { decode(i); }, page_options);
         if (i > 0 && (write_errno = finish_output(page, session)) != 0) break;
     }
     session.flush();

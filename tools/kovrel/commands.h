@@ -34,6 +34,7 @@ struct DecodeOptions {
     std::string record;              // write the datagrams received to this pcap file
     std::string framing = "auto";    // --framing auto|none|oradis|final|length
     bool follow = false;             // --follow: read on as files and pipes grow
+    uint64_t html_limit = 100000;    // html: records embedded in a page (the overview counts all)
 };
 
 // `kovrel [decode] [FILE...]`: decodes recordings (pcap, pcapng, raw

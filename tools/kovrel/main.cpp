@@ -18,8 +18,9 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                     "icao, lat, lon, rho, theta, speed, heading, vx, vy, vrate: those the record has) and \"items\" "
                     "(id, name, len, hex, summary and the item's own \"fields\" when the library describes them); "
                     "csv: a header row and one row per record (see --columns); html: one self-contained page per "
-                    "input (records as collapsible sections headed by SAC/SIC, time, track number, callsign or "
-                    "Mode 3/A code and position, with item tables, detail views, octets)")
+                    "input, drawn by its own script with nothing fetched: an overview per source and the problems "
+                    "found, a plot of the positions, the records as a table to sort and filter, and the record "
+                    "opened with its item table, summaries, detail views and octets (see --html-limit)")
         ->check(CLI::IsMember({"text", "json", "csv", "html"}));
     app->add_option("--columns", o.columns,
                     "csv: comma-separated columns (implies --format csv). Record columns: input, block, offset, "
@@ -63,6 +64,10 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                     "write the records to FILE instead of standard output (-o /dev/null: records are not "
                     "formatted at all); html with several inputs (needs -o): FILE for the first, then FILE with "
                     "-2, -3, ... before the extension (out.html, out-2.html)");
+    app->add_option("--html-limit", o.html_limit,
+                    "html: embed at most N records in the page's table, plot and record views (the page says how "
+                    "many were left out; its overview counts every record)")
+        ->capture_default_str();
     app->add_flag("--log", o.log, "library log lines on standard error");
     app->add_option("--count", o.count,
                     "udp:// inputs: stop once N records were decoded (records of valid blocks that pass the "

@@ -1,0 +1,25 @@
+# Turns the page's script and style sheet into C++ string constants:
+#   cmake -DJS=report.js -DCSS=report.css -DOUT=report_assets.cpp -P embed_assets.cmake
+# Each file goes in as a raw string literal; a file holding the delimiter
+# is refused.
+foreach(var JS CSS OUT)
+  if(NOT DEFINED ${var})
+    message(FATAL_ERROR "embed_assets.cmake: ${var} not given")
+  endif()
+endforeach()
+set(text "// Made from html/report.js and html/report.css at build time; edit those.\n")
+string(APPEND text "#include \"html/report_assets.h\"\n\nnamespace kovrel_tool {\n")
+foreach(pair "kReportJs;${JS}" "kReportCss;${CSS}")
+  list(GET pair 0 name)
+  list(GET pair 1 file)
+  file(READ ${file} body)
+  string(FIND "${body}" ")kovrel\"" clash)
+  if(NOT clash EQUAL -1)
+    message(FATAL_ERROR "${file} holds the delimiter )kovrel\"")
+  endif()
+  string(APPEND text "extern const char ${name}[] = R\"kovrel(${body})kovrel\";\n")
+endforeach()
+string(APPEND text "}  // namespace kovrel_tool\n")
+file(WRITE ${OUT}.tmp "${text}")
+file(COPY_FILE ${OUT}.tmp ${OUT} ONLY_IF_DIFFERENT)
+file(REMOVE ${OUT}.tmp)
