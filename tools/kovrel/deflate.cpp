@@ -10,7 +10,8 @@ constexpr size_t kWindow = 32768;
 constexpr size_t kMinMatch = 4;  // shorter matches cost about what their literals do
 constexpr size_t kMaxMatch = 258;
 constexpr int kHashBits = 15;
-constexpr int kChainTries = 8;
+constexpr int kChainTries = 16;
+constexpr size_t kLazyBelow = 32;  // matches this long or longer are taken at once
 
 constexpr uint16_t kLengthBase[29] = {3,  4,  5,  6,  7,  8,  9,  10, 11,  13,  15,  17,  19,  23, 27,
                                       31, 35, 43, 51, 59, 67, 83, 99, 115, 131, 163, 195, 227, 258};
@@ -115,44 +116,65 @@ void deflate_raw(const uint8_t *data, size_t size, std::string &out) {
     thread_local std::vector<int32_t> head, prev;
     head.assign(size_t{1} << kHashBits, -1);
     prev.resize(kWindow);
-    size_t i = 0;
     auto insert = [&](size_t at) {
         const uint32_t h = hash4(data + at);
         prev[at & (kWindow - 1)] = head[h];
         head[h] = static_cast<int32_t>(at);
     };
-    while (i < size) {
-        size_t best = 0, best_distance = 0;
-        if (size - i >= kMinMatch) {
-            const size_t limit = size - i < kMaxMatch ? size - i : kMaxMatch;
-            int32_t candidate = head[hash4(data + i)];
-            for (int tries = 0; candidate >= 0 && tries < kChainTries; ++tries) {
-                const size_t c = static_cast<size_t>(candidate);
-                if (i - c > kWindow - 1) break;
-                if (data[c + best] == data[i + best]) {
-                    size_t n = 0;
-                    while (n < limit && data[c + n] == data[i + n]) ++n;
-                    if (n > best) {
-                        best = n;
-                        best_distance = i - c;
-                        if (n == limit) break;
-                    }
+    // The longest earlier match of the octets at i (0 when none is kMinMatch long).
+    auto find = [&](size_t i, size_t &distance) {
+        size_t best = 0;
+        if (size - i < kMinMatch) return best;
+        const size_t limit = size - i < kMaxMatch ? size - i : kMaxMatch;
+        int32_t candidate = head[hash4(data + i)];
+        for (int tries = 0; candidate >= 0 && tries < kChainTries; ++tries) {
+            const size_t c = static_cast<size_t>(candidate);
+            if (i - c > kWindow - 1) break;
+            if (data[c + best] == data[i + best]) {
+                size_t n = 0;
+                while (n < limit && data[c + n] == data[i + n]) ++n;
+                if (n > best) {
+                    best = n;
+                    distance = i - c;
+                    if (n == limit) break;
                 }
-                const int32_t next = prev[c & (kWindow - 1)];
-                if (next >= candidate) break;  // the slot was taken by a later position
-                candidate = next;
+            }
+            const int32_t next = prev[c & (kWindow - 1)];
+            if (next >= candidate) break;  // the slot was taken by a later position
+            candidate = next;
+        }
+        return best >= kMinMatch ? best : 0;
+    };
+    auto insert_run = [&](size_t from, size_t to) {
+        for (size_t k = from; k < to && size - k >= kMinMatch; ++k) insert(k);
+    };
+    size_t i = 0;
+    while (i < size) {
+        size_t distance = 0;
+        size_t best = find(i, distance);
+        if (best == 0) {
+            put_symbol(w, data[i]);
+            insert_run(i, i + 1);
+            ++i;
+            continue;
+        }
+        size_t from = i;  // the first position of the match not hashed yet
+        // A longer match one octet on is worth a literal first.
+        if (best < kLazyBelow && i + 1 < size) {
+            insert_run(i, i + 1);
+            from = i + 1;
+            size_t later_distance = 0;
+            const size_t later = find(i + 1, later_distance);
+            if (later > best) {
+                put_symbol(w, data[i]);
+                ++i;
+                best = later;
+                distance = later_distance;
             }
         }
-        if (best >= kMinMatch) {
-            put_match(w, best, best_distance);
-            const size_t end = i + best;
-            for (; i < end; ++i)
-                if (size - i >= kMinMatch) insert(i);
-        } else {
-            put_symbol(w, data[i]);
-            if (size - i >= kMinMatch) insert(i);
-            ++i;
-        }
+        put_match(w, best, distance);
+        insert_run(from, i + best);
+        i += best;
     }
     put_symbol(w, 256);  // end of block
     w.finish();

@@ -1,6 +1,7 @@
 #include "output_html.h"
 
 #include <cstring>
+#include <unordered_map>
 #include <vector>
 
 #include "decode.h"
@@ -54,6 +55,19 @@ void put_hex(OutBuffer &out, const uint8_t *data, size_t size) {
 
 void put_string(OutBuffer &out, const char *text) { put_json_string(out, text, std::strlen(text)); }
 
+uint64_t item_hash(const void *profile, const AstDataItem &item) {
+    uint64_t h = 1469598103934665603ull;
+    auto mix = [&h](const void *p, size_t n) {
+        const auto *o = static_cast<const uint8_t *>(p);
+        for (size_t i = 0; i < n; ++i) h = (h ^ o[i]) * 1099511628211ull;
+    };
+    mix(&profile, sizeof profile);
+    mix(&item.id, sizeof item.id);
+    mix(&item.length, sizeof item.length);
+    if (item.valid && item.data) mix(item.data, static_cast<size_t>(item.length));
+    return h;
+}
+
 }  // namespace
 
 struct HtmlPage::State {
@@ -68,10 +82,43 @@ struct HtmlPage::State {
     RecordFields fields;
     SourceOverview sources;
     std::vector<std::string> types;  // message type names, as rows refer to them
+    // The items of the open group written out so far, by a hash of their
+    // profile, identifier and octets: an item met again in the group is
+    // written as the number of its first appearance.
+    struct Seen {
+        const void *profile;
+        AstItemId id;
+        bool valid;
+        size_t at, length;  // its octets in `octets`
+    };
+    std::unordered_map<uint64_t, uint32_t> seen;
+    std::vector<Seen> distinct;
+    std::string octets;
     OutBuffer problems{nullptr, 1};  // the problems' JSON objects, comma-separated
-    std::vector<char> record_html = std::vector<char>(64 * 1024);
     std::vector<char> detail = std::vector<char>(kDetailSize);
     std::vector<char> summary = std::vector<char>(kSummarySize);
+
+    // Writes the number of an item met before in the group and returns
+    // true; otherwise notes it as the next distinct one.
+    bool repeated(const void *profile, const AstDataItem &item, OutBuffer &t) {
+        const uint64_t h = item_hash(profile, item);
+        const bool valid = item.valid && item.data;
+        const size_t length = valid ? static_cast<size_t>(item.length) : 0;
+        const auto found = seen.find(h);
+        if (found != seen.end()) {
+            const Seen &e = distinct[found->second];
+            if (e.profile == profile && e.id == item.id && e.valid == valid && e.length == length &&
+                (length == 0 || std::memcmp(octets.data() + e.at, item.data, length) == 0)) {
+                t.put_unsigned(found->second);
+                return true;
+            }
+        } else {
+            seen.emplace(h, static_cast<uint32_t>(distinct.size()));
+        }
+        distinct.push_back({profile, item.id, valid, octets.size(), length});
+        if (length) octets.append(reinterpret_cast<const char *>(item.data), length);
+        return false;
+    }
 
     uint32_t type_index(const char *name) {
         for (size_t i = types.size(); i-- > 0;)
@@ -185,18 +232,14 @@ void HtmlPage::record(const RecordView &v) {
     t.put(',');
     put_string(t, r.uap.get_dataitem ? profile_label(r.uap, r.category) : "-");
     t.put(',');
-    ast_datarecord_get_detail_html(s.record_html.data(), s.record_html.size(), &r);
-    if (filled(s.record_html.data(), s.record_html.size()))
-        t.put("null");
-    else
-        put_string(t, s.record_html.data());
-    t.put(',');
     const std::string video = r.category == 240 && r.valid ? video_figure(r) : std::string();
     put_json_string(t, video.data(), video.size());
     t.put(",[");
     for (uint64_t i = 0; i < r.item_count && i < AST_DATARECORD_MAX_ITEMS; ++i) {
         const AstDataItem &item = r.items[i];
         if (i > 0) t.put(',');
+        if (s.repeated(r.uap.get_dataitem ? reinterpret_cast<const void *>(r.uap.get_dataitem) : nullptr, item, t))
+            continue;
         char id[16];
         ast_dataitem_type_to_str(id, sizeof id, item.id);
         t.put('[');
@@ -238,6 +281,9 @@ void HtmlPage::close_group() {
     put(c);
     s.rows.clear();
     s.texts.clear();
+    s.seen.clear();
+    s.distinct.clear();
+    s.octets.clear();
     s.in_group = 0;
 }
 

@@ -20,10 +20,13 @@
 //     {"r":[row,...],"d":"BASE64"}: a row per record (kRowColumns below), and
 //     the base64 of the raw deflate stream (deflate.h) of a JSON array with
 //     one entry per record:
-//       [location, profile, record item table HTML, video SVG,
+//       [location, profile, video SVG,
 //        [[id, name, length, octets in hex, summary, detail view HTML], ...]]
 //     The detail view is null when it does not fit kDetailSize; the octets
-//     are the first kHexTableOctets.
+//     are the first kHexTableOctets. An item equal to one written before in
+//     the group (same profile, identifier and octets) is written as the
+//     number of that one instead, counting the items written in full from 0.
+//     The record's item table is made in the page from its items.
 //   - at the end, one "meta" element: input, version, options, the counts,
 //     embedded and left-out record counts, the message type names rows refer
 //     to, the sources (html_overview.h) and the problems

@@ -299,7 +299,18 @@
       const octets = new Uint8Array(binary.length);
       for (let i = 0; i < binary.length; ++i) octets[i] = binary.charCodeAt(i);
       const stream = new Blob([octets]).stream().pipeThrough(new DecompressionStream('deflate-raw'));
-      g.texts = JSON.parse(await new Response(stream).text());
+      const texts = JSON.parse(await new Response(stream).text());
+      // Items met before in the group come as the number of their first
+      // appearance.
+      const distinct = [];
+      for (const t of texts) {
+        const items = t[3];
+        for (let k = 0; k < items.length; ++k) {
+          if (typeof items[k] === 'number') items[k] = distinct[items[k]];
+          else distinct.push(items[k]);
+        }
+      }
+      g.texts = texts;
     }
     return g.texts;
   }
@@ -335,6 +346,20 @@
     return h + '</table>';
   }
   const BIT_OCTETS = 64, HEX_OCTETS = 1024;
+  function escapeHtml(text) {
+    return text.replace(/&/g, '&amp;').replace(/</g, '&lt;').replace(/>/g, '&gt;');
+  }
+  // The record's item table as the library's ast_datarecord_get_detail_html
+  // draws it: the length in two digits (the first two of a longer one), the
+  // summary cut to 255 characters.
+  function itemTable(items) {
+    let h = '<table class="detail_table"><tr><th>Dataitem</th><th>Name</th><th>Size</th><th>Summary</th></tr>';
+    items.forEach(([id, name, length, , summary], k) => {
+      h += (k % 2 ? '<tr class="even_row">' : '<tr>') + '<td>' + id + '</td><td>' + escapeHtml(name) + '</td><td>' +
+        String(length).padStart(2, '0').slice(0, 2) + '</td><td>' + escapeHtml(summary.slice(0, 255)) + '</td></tr>';
+    });
+    return h + '</table><br/>';
+  }
   async function openRecord(i, scroll) {
     if (!(i >= 0 && i < rows.length)) return;
     state.selected = i;
@@ -347,7 +372,7 @@
       section.replaceChildren(el('p', { class: 'problem', text: 'This record cannot be shown: ' + e }));
       return;
     }
-    const [where, profile, itemTable, video, items] = t;
+    const [where, profile, video, items] = t;
     const sep = () => el('span', { class: 'sep', text: '|' });
     const head = el('p', { class: 'head' }, '#' + (i + 1), sep(), 'Block ' + r[BLOCK] + ' at ' + where, sep(),
       'record ' + r[REC], sep(), 'CAT' + pad(r[CAT], 3) + ' ' + profile);
@@ -357,7 +382,7 @@
       r[FLAGS] & 1 ? 'INVALID: the block stops here' : r[FLAGS] & 2 ? 'in a bad block' : ''])
       if (part) head.append(sep(), part);
     const body = el('div', { class: 'body' });
-    body.innerHTML = (itemTable === null ? '<p class="note">The item table of this record is too large to show.</p>' : itemTable) + video;
+    body.innerHTML = itemTable(items) + video;
     for (const [id, name, length, hex, summary, detail] of items) {
       const o = octetsOf(hex);
       const item = el('div', { class: 'item' }, el('h3', null, el('span', { class: 'id', text: id }), name,
@@ -386,7 +411,7 @@
   // their extent. Polar positions are drawn per radar in its own range and
   // azimuth frame, the radar at the centre: the records do not say where the
   // radar stands.
-  const PLOT = 460, MARGIN = 24;
+  const PLOT = 380, MARGIN = 22;
   function niceStep(span) {
     const raw = span / 4, p = Math.pow(10, Math.floor(Math.log10(raw)));
     for (const m of [1, 2, 5, 10]) if (m * p >= raw) return m * p;
@@ -466,7 +491,7 @@
       const cx = (w + e) / 2, cy = (s + n) / 2;
       const at = r => [PLOT / 2 + (r[LON] - cx) * k * ppd, PLOT / 2 - (r[LAT] - cy) * ppd];
       const { box, s: map } = panel('WGS-84 positions (' + wgs.length + ')');
-      label(map, 6, 14, n.toFixed(3) + '\u00b0 N edge ' + w.toFixed(3) + '\u00b0 to ' + e.toFixed(3) + '\u00b0 E');
+      label(map, 6, 14, 'lat ' + s.toFixed(3) + ' to ' + n.toFixed(3) + ', lon ' + w.toFixed(3) + ' to ' + e.toFixed(3));
       scaleBar(map, ppd / 60);
       north(map);
       drawPoints(map, wgs, at);
