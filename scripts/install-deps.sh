@@ -4,7 +4,8 @@
 set -euo pipefail
 packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev libpcap-dev libcli11-dev
           nlohmann-json3-dev clang libclang-rt-14-dev pkg-config binutils git
-          pybind11-dev python3-dev python3-pytest python3-numpy python3-pandas python3-matplotlib)
+          pybind11-dev python3-dev python3-pytest python3-numpy python3-pandas python3-matplotlib
+          chromium)  # chromium: the HTML report is tested headless (tests/browser)
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed' || missing+=("$p")
