@@ -82,6 +82,10 @@ row "text" "$(best_of $pin "$kovrel" decode "$recording")"
 row "--items" "$(best_of $pin "$kovrel" decode --items "$recording")"
 row "--format json" "$(best_of $pin "$kovrel" decode --format json "$recording")"
 row "--format csv" "$(best_of $pin "$kovrel" decode --format csv "$recording")"
+# The HTML page embeds the first 100000 records (its default --html-limit)
+# with their item texts and counts the rest; embedding every record costs
+# the library's detail view of every item.
+row "--format html" "$(best_of $pin "$kovrel" decode --format html "$recording")"
 row "--format csv, 4 item paths more" "$(best_of $pin "$kovrel" decode --columns "$columns,$paths" "$recording")"
 
 # Filtering: one --filter asks one record accessor per record. Against the

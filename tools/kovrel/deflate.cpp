@@ -10,8 +10,11 @@ constexpr size_t kWindow = 32768;
 constexpr size_t kMinMatch = 4;  // shorter matches cost about what their literals do
 constexpr size_t kMaxMatch = 258;
 constexpr int kHashBits = 15;
-constexpr int kChainTries = 16;
-constexpr size_t kLazyBelow = 32;  // matches this long or longer are taken at once
+constexpr int kChainTries = 4;
+constexpr size_t kLazyBelow = 8;  // matches this long or longer are taken at once
+// Positions inside a match longer than this are not hashed (the text is
+// already known; hashing it all costs more than the matches it would find).
+constexpr size_t kHashedInMatch = 16;
 
 constexpr uint16_t kLengthBase[29] = {3,  4,  5,  6,  7,  8,  9,  10, 11,  13,  15,  17,  19,  23, 27,
                                       31, 35, 43, 51, 59, 67, 83, 99, 115, 131, 163, 195, 227, 258};
@@ -101,6 +104,20 @@ void put_match(BitWriter &w, size_t length, size_t distance) {
     if (kDistExtra[dc]) w.bits(static_cast<uint32_t>(distance - kDistBase[dc]), kDistExtra[dc]);
 }
 
+// How many of the first `limit` octets at a and b are equal.
+size_t common_length(const uint8_t *a, const uint8_t *b, size_t limit) {
+    size_t n = 0;
+    while (n + 8 <= limit) {
+        uint64_t x, y;
+        std::memcpy(&x, a + n, 8);
+        std::memcpy(&y, b + n, 8);
+        if (x != y) return n + static_cast<size_t>(__builtin_ctzll(x ^ y) / 8);
+        n += 8;
+    }
+    while (n < limit && a[n] == b[n]) ++n;
+    return n;
+}
+
 uint32_t hash4(const uint8_t *p) {
     uint32_t v;
     std::memcpy(&v, p, 4);
@@ -131,8 +148,7 @@ void deflate_raw(const uint8_t *data, size_t size, std::string &out) {
             const size_t c = static_cast<size_t>(candidate);
             if (i - c > kWindow - 1) break;
             if (data[c + best] == data[i + best]) {
-                size_t n = 0;
-                while (n < limit && data[c + n] == data[i + n]) ++n;
+                const size_t n = common_length(data + c, data + i, limit);
                 if (n > best) {
                     best = n;
                     distance = i - c;
@@ -173,7 +189,7 @@ void deflate_raw(const uint8_t *data, size_t size, std::string &out) {
             }
         }
         put_match(w, best, distance);
-        insert_run(from, i + best);
+        insert_run(from, best <= kHashedInMatch ? i + best : from + 1);
         i += best;
     }
     put_symbol(w, 256);  // end of block

@@ -559,8 +559,14 @@
   drawTableFrame();
   fromFragment();
   window.addEventListener('hashchange', fromFragment);
+  // When the page was ready, and when its plot was, in ms from the start of
+  // loading (kept on the body for whoever measures).
+  document.body.dataset.readyMs = String(Math.round(performance.now()));
   if (rows.length) {
     if (!location.hash.includes('open=')) openRecord(0, false);
-    setTimeout(drawPlot, 0);
+    setTimeout(() => {
+      drawPlot();
+      document.body.dataset.plottedMs = String(Math.round(performance.now()));
+    }, 0);
   }
 })();
