@@ -10,8 +10,8 @@ constexpr size_t kWindow = 32768;
 constexpr size_t kMinMatch = 4;  // shorter matches cost about what their literals do
 constexpr size_t kMaxMatch = 258;
 constexpr int kHashBits = 15;
-constexpr int kChainTries = 4;
-constexpr size_t kLazyBelow = 8;  // matches this long or longer are taken at once
+constexpr int kChainTries = 8;
+constexpr size_t kLazyBelow = 32;  // matches this long or longer are taken at once
 // Positions inside a match longer than this are not hashed (the text is
 // already known; hashing it all costs more than the matches it would find).
 constexpr size_t kHashedInMatch = 16;
