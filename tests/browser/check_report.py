@@ -94,6 +94,33 @@ def main():
         dom, console = dump(browser, page, '#filter=callsign=NOBODY99')
         check(text_of(dom, 'shown') == '0 of %d records' % len(records), 'an unknown callsign leaves no row')
 
+    # Each keyword of the filter box keeps what `kovrel --filter` would.
+    def first(key):
+        return next(r['fields'][key] for r in records if key in r['fields'])
+    track, mode3a, icao = first('track'), first('mode3a'), first('icao')
+    sac, sic = first('sac'), first('sic')
+    cases = [
+        ('track=%d' % track, lambda r: r['fields'].get('track') == track),
+        ('mode3a=%s' % mode3a, lambda r: r['fields'].get('mode3a') == mode3a),
+        ('icao=%s' % icao.lower(), lambda r: r['fields'].get('icao') == icao),
+        ('sacsic=%03d/%03d' % (sac, sic), lambda r: (r['fields'].get('sac'), r['fields'].get('sic')) == (sac, sic)),
+        ('sacsic=%d' % sac, lambda r: r['fields'].get('sac') == sac),
+        ('type=track', lambda r: r['fields'].get('msgtype', '').split(' ')[0].lower() == 'track'),
+        ('cat=48,62', lambda r: r['cat'] in (48, 62)),
+        ('cat=21%20track=' + str(track), lambda r: r['cat'] == 21 and r['fields'].get('track') == track),
+    ]
+    for text, keep in cases:
+        dom, console = dump(browser, page, '#filter=' + text)
+        expected = sum(1 for r in records if keep(r))
+        check(text_of(dom, 'shown') == '%d of %d records' % (expected, len(records)),
+              'filter %s leaves %d rows (%s)' % (text, expected, text_of(dom, 'shown')))
+
+    # Sorting: the first row drawn is the latest time.
+    dom, console = dump(browser, page, '#sort=-time')
+    latest = max(r['fields']['tod'] for r in records if 'tod' in r['fields'])
+    first_row = re.search(r'<tr class="row[^"]*" data-row="\d+">((?:<td>[^<]*</td>)+)</tr>', dom)
+    check(first_row is not None and '<td>%s</td>' % latest in first_row.group(1), 'sorted by time, latest first')
+
     # Opening a record shows its items' summaries, in order.
     for n in (1, len(records) // 2, len(records)):
         dom, console = dump(browser, page, '#open=%d' % n)

@@ -4,9 +4,10 @@
 //
 // The URL fragment drives the page as the controls do, so that a link (or
 // a headless browser) can show a given view:
-//   #filter=callsign=DLH123%20cat=48&src=48:25/1&from=12:00&to=12:30&open=7
+//   #filter=callsign=DLH123%20cat=48&src=48:25/1&from=12:00&to=12:30&sort=-time&open=7
 // filter: the text of the filter box; src: a source (CAT:SAC/SIC); from, to:
-// times of day; open: the record (its # in the table) to show.
+// times of day; sort: a column heading in lower case, '-' before it for
+// descending order; open: the record (its # in the table) to show.
 (function () {
   'use strict';
 
@@ -551,6 +552,9 @@
     c.sources.value = state.src = wanted.src || '';
     c.from.value = state.from = wanted.from || '';
     c.to.value = state.to = wanted.to || '';
+    const sort = (wanted.sort || '').toLowerCase();
+    state.down = sort.startsWith('-');
+    state.sort = COLUMNS.findIndex(col => col[0].toLowerCase() === sort.replace(/^-/, ''));
     refresh();
     if (wanted.open) openRecord(Number(wanted.open) - 1, true);
   }
