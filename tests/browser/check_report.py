@@ -121,6 +121,15 @@ def main():
     first_row = re.search(r'<tr class="row[^"]*" data-row="\d+">((?:<td>[^<]*</td>)+)</tr>', dom)
     check(first_row is not None and '<td>%s</td>' % latest in first_row.group(1), 'sorted by time, latest first')
 
+    # The CAT240 sweep: a strip per video message (not per video summary).
+    dom, console = dump(browser, page, '#video=1')
+    messages = sum(1 for r in records if r['cat'] == 240 and
+                   not any('VIDEO_SUMMARY' in i['summary'] for i in r['items']))
+    strips = re.search(r'<div class="strips">(.*?)</div>', dom)
+    check(messages > 0 and strips is not None and strips.group(1).count('<svg') == messages,
+          'the sweep draws %d radials' % messages)
+    check(console == [], 'no console message drawing the sweep: %s' % console[:3])
+
     # Opening a record shows its items' summaries, in order.
     for n in (1, len(records) // 2, len(records)):
         dom, console = dump(browser, page, '#open=%d' % n)

@@ -1,5 +1,6 @@
 #include "output_html.h"
 
+#include <cmath>
 #include <cstring>
 #include <unordered_map>
 #include <vector>
@@ -23,24 +24,25 @@ bool filled(const char *text, size_t size) { return std::strlen(text) + 1 >= siz
 constexpr uint32_t kRowFields = kAskSource | kAskTime | kAskType | kAskTrack | kAskMode3a | kAskLevel |
                                 kAskCallsign | kAskAddress | kAskWgs84 | kAskPolar;
 
-// A real with at most `decimals` decimals, trailing zeros dropped.
+// A real with at most `decimals` decimals, trailing zeros dropped; null
+// when it is not a finite number.
 void put_real(OutBuffer &out, double value, int decimals) {
     char text[48];
-    int n = std::snprintf(text, sizeof text, "%.*f", decimals, value);
-    if (n <= 0 || static_cast<size_t>(n) >= sizeof text || value != value) {
+    const int n = std::isfinite(value) ? std::snprintf(text, sizeof text, "%.*f", decimals, value) : -1;
+    if (n <= 0 || static_cast<size_t>(n) >= sizeof text) {
         out.put("null");
         return;
     }
-    while (n > 1 && std::memchr(text, '.', static_cast<size_t>(n)) && (text[n - 1] == '0' || text[n - 1] == '.')) {
-        const bool dot = text[n - 1] == '.';
-        --n;
-        if (dot) break;
+    size_t end = static_cast<size_t>(n);
+    if (std::memchr(text, '.', end)) {
+        while (text[end - 1] == '0') --end;
+        if (text[end - 1] == '.') --end;
     }
-    if (n == 2 && text[0] == '-' && text[1] == '0') {
+    if (end == 2 && text[0] == '-' && text[1] == '0') {
         out.put('0');
         return;
     }
-    out.put(text, static_cast<size_t>(n));
+    out.put(text, end);
 }
 
 void put_hex(OutBuffer &out, const uint8_t *data, size_t size) {

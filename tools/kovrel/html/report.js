@@ -7,7 +7,8 @@
 //   #filter=callsign=DLH123%20cat=48&src=48:25/1&from=12:00&to=12:30&sort=-time&open=7
 // filter: the text of the filter box; src: a source (CAT:SAC/SIC); from, to:
 // times of day; sort: a column heading in lower case, '-' before it for
-// descending order; open: the record (its # in the table) to show.
+// descending order; open: the record (its # in the table) to show; video:
+// any value draws the CAT240 sweeps at once.
 (function () {
   'use strict';
 
@@ -476,7 +477,14 @@
         polar.get(key).push(i);
       }
     }
-    if (!wgs.length && !polar.size) return;
+    const video = new Map();  // CAT240 records by source
+    for (let i = 0; i < rows.length; ++i)
+      if (rows[i][CAT] === 240 && !(rows[i][FLAGS] & 1)) {
+        const key = sourceKey(rows[i]);
+        if (!video.has(key)) video.set(key, []);
+        video.get(key).push(i);
+      }
+    if (!wgs.length && !polar.size && !video.size) return;
     const section = document.getElementById('plot');
     const panels = el('div', { class: 'panels' });
     section.append(el('h2', { text: 'Plot' }), panels);
@@ -522,6 +530,7 @@
       drawPoints(map, list, at);
       panels.append(box);
     }
+    for (const [key, list] of video) panels.append(sweepPanel(key, list));
     const tip = el('div', { class: 'tip', hidden: '' });
     document.body.append(tip);
     panels.addEventListener('mouseover', e => {
@@ -538,6 +547,46 @@
     panels.addEventListener('click', e => {
       if (e.target.classList.contains('pt')) openRecord(+e.target.id.slice(2), true);
     });
+  }
+
+  // The radials of a CAT240 source one under the other, in the order they
+  // came (range from left to right, amplitude as grey): drawn when asked,
+  // since it needs the texts of every group holding one.
+  const SWEEP_RADIALS = 2000;
+  function sweepPanel(key, list) {
+    const r0 = rows[list[0]];
+    const box = el('div', { class: 'panel sweep', 'data-source': key },
+      el('h3', { text: 'Video CAT240 ' + sourceText(r0[SAC], r0[SIC]) + ' (' + list.length + ' records)' }));
+    const button = el('button', { type: 'button', text: 'Draw the sweep' });
+    button.addEventListener('click', () => drawSweep(box, list));
+    box.append(button);
+    return box;
+  }
+  async function drawSweep(box, list) {
+    const strips = [];
+    for (const i of list.slice(0, SWEEP_RADIALS)) {
+      const g = groups[groupOf[i]];
+      const svgText = (await groupTexts(g))[i - g.first][2];
+      if (!svgText) continue;
+      const holder = document.createElement('template');
+      holder.innerHTML = svgText;
+      const image = holder.content.querySelector('svg svg');
+      const title = holder.content.querySelector('title');
+      if (!image) continue;
+      if (title) image.append(title);
+      strips.push(image);
+    }
+    const height = Math.max(1, Math.min(8, Math.floor(PLOT / Math.max(1, strips.length))));
+    const stack = el('div', { class: 'strips' });
+    for (const image of strips) {
+      image.setAttribute('width', PLOT);
+      image.setAttribute('height', height);
+      image.style.display = 'block';
+      stack.append(image);
+    }
+    box.querySelector('button')?.remove();
+    box.append(stack, el('p', { class: 'note', text: strips.length + ' radials, range from left to right' +
+      (list.length > SWEEP_RADIALS ? ', the first ' + SWEEP_RADIALS : '') }));
   }
 
   // ---- The URL fragment ---------------------------------------------------
@@ -571,6 +620,8 @@
     setTimeout(() => {
       drawPlot();
       document.body.dataset.plottedMs = String(Math.round(performance.now()));
+      if (/(^#|&)video=/.test(location.hash))
+        for (const b of document.querySelectorAll('.sweep button')) b.click();
     }, 0);
   }
 })();
