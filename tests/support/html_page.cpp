@@ -116,10 +116,13 @@ EmbeddedPage render_page(const std::string &name, const Octets &octets, const ko
 
     const std::string group = "<script type=\"application/x-kovrel-group\">";
     const std::string meta = "<script type=\"application/x-kovrel-meta\" id=\"kovrel-meta\">";
+    std::vector<nlohmann::json> written;  // items written in full, in page order
+    std::vector<nlohmann::json> records;  // as embedded, numbers not resolved yet
     for (size_t at = page.text.find(group); at != std::string::npos; at = page.text.find(group, at + 1)) {
         const size_t from = at + group.size();
         const auto g = nlohmann::json::parse(page.text.substr(from, page.text.find("</script>", from) - from));
         ++page.groups;
+        if (g["f"] != written.size()) page.readable = false;
         for (const auto &row : g["r"]) page.rows.push_back(row);
         std::string texts;
         if (!inflate_fixed(base64_decode(g["d"].get<std::string>()), texts)) {
@@ -127,21 +130,28 @@ EmbeddedPage render_page(const std::string &name, const Octets &octets, const ko
             continue;
         }
         page.inflated += texts;
-        auto records = nlohmann::json::parse(texts, nullptr, false);
-        if (!records.is_array()) {
+        auto group_records = nlohmann::json::parse(texts, nullptr, false);
+        if (!group_records.is_array()) {
             page.readable = false;
             continue;
         }
-        std::vector<nlohmann::json> distinct;
-        for (auto &record : records) {
-            for (auto &item : record[3]) {
-                if (item.is_number())
-                    item = distinct.at(item.get<size_t>());
-                else
-                    distinct.push_back(item);
-            }
-            page.records.push_back(record);
+        for (auto &record : group_records) {
+            for (const auto &item : record[3])
+                if (!item.is_number()) written.push_back(item);
+            records.push_back(record);
         }
+    }
+    // Numbers point back at items written in full, in this group or before.
+    for (auto &record : records) {
+        for (auto &item : record[3]) {
+            if (!item.is_number()) continue;
+            if (item.get<size_t>() >= written.size()) {
+                page.readable = false;
+                break;
+            }
+            item = written[item.get<size_t>()];
+        }
+        page.records.push_back(record);
     }
     const size_t at = page.text.find(meta);
     if (at != std::string::npos) {

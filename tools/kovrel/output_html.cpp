@@ -57,6 +57,11 @@ void put_hex(OutBuffer &out, const uint8_t *data, size_t size) {
 
 void put_string(OutBuffer &out, const char *text) { put_json_string(out, text, std::strlen(text)); }
 
+// How many items, and octets of them, the page remembers to write again
+// as a number.
+constexpr size_t kSeenItems = size_t{1} << 18;
+constexpr size_t kSeenOctets = size_t{16} << 20;
+
 uint64_t item_hash(const void *profile, const AstDataItem &item) {
     uint64_t h = 1469598103934665603ull;
     auto mix = [&h](const void *p, size_t n) {
@@ -84,24 +89,29 @@ struct HtmlPage::State {
     RecordFields fields;
     SourceOverview sources;
     std::vector<std::string> types;  // message type names, as rows refer to them
-    // The items of the open group written out so far, by a hash of their
-    // profile, identifier and octets: an item met again in the group is
-    // written as the number of its first appearance.
+    // The items written in full so far on the page, by a hash of their
+    // profile, identifier and octets: an item met again is written as the
+    // number of its first appearance (items written in full count from 0).
+    // Once kSeenItems are kept or their octets pass kSeenOctets, new ones
+    // are still numbered but no longer kept.
     struct Seen {
         const void *profile;
         AstItemId id;
         bool valid;
+        uint32_t number;
         size_t at, length;  // its octets in `octets`
     };
-    std::unordered_map<uint64_t, uint32_t> seen;
+    std::unordered_map<uint64_t, uint32_t> seen;  // into `distinct`
     std::vector<Seen> distinct;
     std::string octets;
+    uint32_t written = 0;        // items written in full
+    uint32_t group_first = 0;    // the number of the open group's first one
     OutBuffer problems{nullptr, 1};  // the problems' JSON objects, comma-separated
     std::vector<char> detail = std::vector<char>(kDetailSize);
     std::vector<char> summary = std::vector<char>(kSummarySize);
 
-    // Writes the number of an item met before in the group and returns
-    // true; otherwise notes it as the next distinct one.
+    // Writes the number of an item met before on the page and returns
+    // true; otherwise numbers it as the next one written in full.
     bool repeated(const void *profile, const AstDataItem &item, OutBuffer &t) {
         const uint64_t h = item_hash(profile, item);
         const bool valid = item.valid && item.data;
@@ -111,14 +121,15 @@ struct HtmlPage::State {
             const Seen &e = distinct[found->second];
             if (e.profile == profile && e.id == item.id && e.valid == valid && e.length == length &&
                 (length == 0 || std::memcmp(octets.data() + e.at, item.data, length) == 0)) {
-                t.put_unsigned(found->second);
+                t.put_unsigned(e.number);
                 return true;
             }
-        } else {
+        } else if (distinct.size() < kSeenItems && octets.size() + length <= kSeenOctets) {
             seen.emplace(h, static_cast<uint32_t>(distinct.size()));
+            distinct.push_back({profile, item.id, valid, written, octets.size(), length});
+            if (length) octets.append(reinterpret_cast<const char *>(item.data), length);
         }
-        distinct.push_back({profile, item.id, valid, octets.size(), length});
-        if (length) octets.append(reinterpret_cast<const char *>(item.data), length);
+        ++written;
         return false;
     }
 
@@ -272,7 +283,9 @@ void HtmlPage::close_group() {
     State &s = *state_;
     if (s.in_group == 0) return;
     std::string &c = s.chunk;
-    c.assign("<script type=\"application/x-kovrel-group\">{\"r\":[");
+    c.assign("<script type=\"application/x-kovrel-group\">{\"f\":");
+    c.append(std::to_string(s.group_first));
+    c.append(",\"r\":[");
     append_script_json(c, s.rows.view());
     c.append("],\"d\":\"");
     s.texts.put(']');
@@ -283,9 +296,7 @@ void HtmlPage::close_group() {
     put(c);
     s.rows.clear();
     s.texts.clear();
-    s.seen.clear();
-    s.distinct.clear();
-    s.octets.clear();
+    s.group_first = s.written;
     s.in_group = 0;
 }
 

@@ -17,15 +17,18 @@
 // What is embedded, in <script type="application/x-kovrel-..."> elements
 // that the browser parses but does not run:
 //   - per group of up to kGroupRecords records, one "group" element holding
-//     {"r":[row,...],"d":"BASE64"}: a row per record (kRowColumns below), and
+//     {"f":N,"r":[row,...],"d":"BASE64"}: the number of the first item the
+//     group writes in full (see below), a row per record (kRowColumns), and
 //     the base64 of the raw deflate stream (deflate.h) of a JSON array with
 //     one entry per record:
 //       [location, profile, video SVG,
 //        [[id, name, length, octets in hex, summary, detail view HTML], ...]]
 //     The detail view is null when it does not fit kDetailSize; the octets
-//     are the first kHexTableOctets. An item equal to one written before in
-//     the group (same profile, identifier and octets) is written as the
-//     number of that one instead, counting the items written in full from 0.
+//     are the first kHexTableOctets. An item equal to one written before on
+//     the page (same profile, identifier and octets) is written as the
+//     number of that one instead, counting the items written in full from 0
+//     across the groups, so that opening a record may inflate the group that
+//     wrote one of its items first.
 //     The record's item table is made in the page from its items.
 //   - at the end, one "meta" element: input, version, options, the counts,
 //     embedded and left-out record counts, the message type names rows refer

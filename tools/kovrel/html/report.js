@@ -26,7 +26,7 @@
   for (const script of document.querySelectorAll('script[type="application/x-kovrel-group"]')) {
     const g = JSON.parse(script.textContent);
     const index = groups.length;
-    groups.push({ first: rows.length, data: g.d, texts: null });
+    groups.push({ first: rows.length, firstItem: g.f, data: g.d, texts: null });
     for (const r of g.r) {
       rows.push(r);
       groupOf.push(index);
@@ -295,6 +295,8 @@
   }
 
   // ---- The record opened --------------------------------------------------
+  // A group's records, inflated once: [location, profile, video, items],
+  // items written in full or as the number of an item written before.
   async function groupTexts(g) {
     if (!g.texts) {
       const binary = atob(g.data);
@@ -302,19 +304,31 @@
       for (let i = 0; i < binary.length; ++i) octets[i] = binary.charCodeAt(i);
       const stream = new Blob([octets]).stream().pipeThrough(new DecompressionStream('deflate-raw'));
       const texts = JSON.parse(await new Response(stream).text());
-      // Items met before in the group come as the number of their first
-      // appearance.
-      const distinct = [];
-      for (const t of texts) {
-        const items = t[3];
-        for (let k = 0; k < items.length; ++k) {
-          if (typeof items[k] === 'number') items[k] = distinct[items[k]];
-          else distinct.push(items[k]);
-        }
-      }
+      g.defined = [];  // the items it writes in full, numbered from g.firstItem
+      for (const t of texts) for (const item of t[3]) if (typeof item !== 'number') g.defined.push(item);
       g.texts = texts;
     }
     return g.texts;
+  }
+  // The item numbered k: in the last group whose first number is not past k.
+  async function numberedItem(k) {
+    let lo = 0, hi = groups.length - 1;
+    while (lo < hi) {
+      const mid = (lo + hi + 1) >> 1;
+      if (groups[mid].firstItem <= k) lo = mid; else hi = mid - 1;
+    }
+    const g = groups[lo];
+    await groupTexts(g);
+    const item = g.defined[k - g.firstItem];
+    if (!item) throw new Error('item ' + k + ' is missing');
+    return item;
+  }
+  async function recordTexts(i) {
+    const g = groups[groupOf[i]];
+    const [where, profile, video, items] = (await groupTexts(g))[i - g.first];
+    const whole = [];
+    for (const item of items) whole.push(typeof item === 'number' ? await numberedItem(item) : item);
+    return [where, profile, video, whole];
   }
   function octetsOf(hex) {
     const o = new Uint8Array(hex.length / 2);
@@ -365,11 +379,11 @@
   async function openRecord(i, scroll) {
     if (!(i >= 0 && i < rows.length)) return;
     state.selected = i;
-    const r = rows[i], g = groups[groupOf[i]];
+    const r = rows[i];
     const section = document.getElementById('record');
     let t;
     try {
-      t = (await groupTexts(g))[i - g.first];
+      t = await recordTexts(i);
     } catch (e) {
       section.replaceChildren(el('p', { class: 'problem', text: 'This record cannot be shown: ' + e }));
       return;
