@@ -1,8 +1,10 @@
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
 #include <cstring>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 #include <kovrel/kovrel.h>
@@ -139,8 +141,13 @@ int run_decode(const DecodeOptions &options) {
             return 2;
         }
     }
+    if (options.accept_empty_fspec) ast_library_set_option(AST_OPTION_ACCEPT_EMPTY_FSPEC);
+    // Library log lines are printed as they come, in the order of the
+    // decoding threads; the page is written as the records come.
+    settings.threads = options.threads ? options.threads : std::max(1u, std::thread::hardware_concurrency());
+    if (html || options.log) settings.threads = 1;
     std::FILE *out = stdout;
-    if (!options.output.empty() && !(out = open_output(options.output))) return 2;
+    if (!options.output.empty() && !(out = open_output(options.output))) return 1;
     // A reader that goes away (`kovrel | head`) ends the run quietly.
     std::signal(SIGPIPE, SIG_IGN);
     set_library_log(options.log ? log_to_stderr : nullptr);

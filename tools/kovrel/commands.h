@@ -35,6 +35,8 @@ struct DecodeOptions {
     std::string framing = "auto";    // --framing auto|none|oradis|final|length
     bool follow = false;             // --follow: read on as files and pipes grow
     uint64_t html_limit = 100000;    // html: records embedded in a page (the overview counts all)
+    unsigned threads = 0;            // decoding threads; 0: one per core
+    bool accept_empty_fspec = false;  // let compound items with an empty primary subfield through
 };
 
 // `kovrel [decode] [FILE...]`: decodes recordings (pcap, pcapng, raw

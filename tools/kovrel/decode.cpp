@@ -1,6 +1,9 @@
 #include "decode.h"
 
-#include <map>
+#include <cstdio>
+
+#include <array>
+#include <bitset>
 #include <utility>
 
 #include "profiles.h"
@@ -9,16 +12,6 @@ namespace kovrel_tool {
 namespace {
 
 AstLogHandler g_handler = nullptr;
-
-// Silences the library while the tool probes it (diagnosing a bad block
-// decodes it again and again; the first decode has already logged).
-class QuietLog {
-public:
-    QuietLog() { ast_log_handler_reg(nullptr); }
-    ~QuietLog() { ast_log_handler_reg(g_handler); }
-    QuietLog(const QuietLog &) = delete;
-    QuietLog &operator=(const QuietLog &) = delete;
-};
 
 // The profiles in the order the smart decoder tries them.
 const AstUap *const kCandidates[] = {
@@ -70,26 +63,55 @@ const AstUap *mix_profile(const uint8_t *rec, size_t left, std::string &why) {
 
 }  // namespace
 
+// Probing a bad block decodes it again and again; the first decode has
+// already logged.
+QuietLog::QuietLog() : active_(g_handler != nullptr) {
+    if (active_) ast_log_handler_reg(nullptr);
+}
+
+QuietLog::~QuietLog() {
+    if (active_) ast_log_handler_reg(g_handler);
+}
+
 void set_library_log(AstLogHandler handler) {
     g_handler = handler;
     ast_log_handler_reg(handler);
 }
 
+namespace {
+
+// Whether a profile's table of a category is the standard one.
+bool same_as_standard(const AstUap &uap, uint32_t category) {
+    QuietLog quiet;
+    const uint32_t max = ast_uap_max_frn(&uap, category);
+    bool same = max == ast_uap_max_frn(&AST_UAP_STANDARD, category);
+    for (uint32_t frn = 1; same && frn <= max; ++frn)
+        same = ast_uap_get_dataitem(&uap, category, frn) == ast_uap_get_dataitem(&AST_UAP_STANDARD, category, frn);
+    return same;
+}
+
+// For each exported profile, the categories whose table is the standard
+// one: built once, on first use (the initialisation of a static is
+// thread-safe), and only read afterwards.
+struct StandardTables {
+    std::array<std::bitset<256>, std::size(kCandidates)> same;
+    StandardTables() {
+        for (size_t p = 0; p < std::size(kCandidates); ++p)
+            for (uint32_t category = 0; category < 256; ++category)
+                same[p][category] = same_as_standard(*kCandidates[p], category);
+    }
+};
+
+}  // namespace
+
 const char *profile_label(const AstUap &uap, uint32_t category) {
     const char *name = profile_name(uap);
     if (uap.get_dataitem == AST_UAP_STANDARD.get_dataitem) return name;
-    static std::map<std::pair<uintptr_t, uint32_t>, bool> same_as_standard;
-    const auto key = std::make_pair(reinterpret_cast<uintptr_t>(uap.get_dataitem), category);
-    auto it = same_as_standard.find(key);
-    if (it == same_as_standard.end()) {
-        QuietLog quiet;
-        const uint32_t max = ast_uap_max_frn(&uap, category);
-        bool same = max == ast_uap_max_frn(&AST_UAP_STANDARD, category);
-        for (uint32_t frn = 1; same && frn <= max; ++frn)
-            same = ast_uap_get_dataitem(&uap, category, frn) == ast_uap_get_dataitem(&AST_UAP_STANDARD, category, frn);
-        it = same_as_standard.emplace(key, same).first;
-    }
-    return it->second ? "standard" : name;
+    static const StandardTables tables;
+    for (size_t p = 0; p < std::size(kCandidates); ++p)
+        if (kCandidates[p]->get_dataitem == uap.get_dataitem)
+            return category < 256 && tables.same[p][category] ? "standard" : name;
+    return same_as_standard(uap, category) ? "standard" : name;  // a profile of the caller's own
 }
 
 BlockDecoder::BlockDecoder(const AstUap *uap)
@@ -107,13 +129,42 @@ void BlockDecoder::attempt(AstDataBlock *out, const uint8_t *data, size_t size, 
         ast_datablock_001_mixuap_decode_into(out, data, size);
 }
 
+// The library's smart decoder, step for step, with the remembered profile
+// kept here instead of in a thread_local: the tool decides when it starts
+// afresh (each input) and carries it from one decoding thread to the next.
+void BlockDecoder::smart_decode(const uint8_t *data, size_t size) {
+    AstDataBlock *out = block_.get();
+    if (!data || size < 3) {
+        ast_datablock_decode_into(out, data, size, &AST_UAP_STANDARD);
+        return;
+    }
+    if (data[0] == 1) {
+        ast_datablock_001_mixuap_decode_into(out, data, size);
+        if (out->valid == 1) return;
+    }
+    if (!remembered_) remembered_ = &AST_UAP_STANDARD;
+    ast_datablock_decode_into(out, data, size, remembered_);
+    if (out->valid == 1) return;
+    // Every candidate is tried in turn, the remembered one again unless it
+    // was the one tried just before; the last tried is remembered, even
+    // when none reads the block.
+    const AstUap *previous = remembered_;
+    for (const AstUap *candidate : kCandidates) {
+        if (candidate->get_dataitem == previous->get_dataitem) continue;
+        remembered_ = candidate;
+        previous = candidate;
+        ast_datablock_decode_into(out, data, size, candidate);
+        if (out->valid == 1) return;
+    }
+}
+
 BlockOutcome BlockDecoder::decode(const uint8_t *data, size_t size) {
     have_failed_ = false;
     BlockOutcome out;
     if (uap_)
         ast_datablock_decode_into(block_.get(), data, size, uap_);
     else
-        ast_datablock_smart_decode_into(block_.get(), data, size);
+        smart_decode(data, size);
     out.block = block_.get();
     if (block_->valid) {
         out.valid = true;
@@ -123,6 +174,12 @@ BlockOutcome BlockDecoder::decode(const uint8_t *data, size_t size) {
     if (!out.reason.empty()) return out;
 
     QuietLog quiet;
+    if (ast_uap_max_frn(&AST_UAP_STANDARD, data[0]) == 0) {
+        char cat[8];
+        std::snprintf(cat, sizeof cat, "%03u", data[0]);
+        out.reason = std::string("category ") + cat + " is not supported";
+        return out;
+    }
     if (uap_) {
         out.reason = explain(*block_, data, size, uap_);
     } else {

@@ -30,8 +30,8 @@ struct BlockOutcome {
     const FailedRecord *failed = nullptr;
 };
 
-// Decodes blocks one at a time with one profile, or with the smart decoder
-// (uap nullptr). Blocks are large (64 records of 48 items), so the decoder
+// Decodes blocks one at a time with one profile, or smartly (uap nullptr:
+// the profile that read the last block first, then each profile in turn). Blocks are large (64 records of 48 items), so the decoder
 // keeps its own on the heap and reuses it; an outcome stays valid until the
 // next call.
 class BlockDecoder {
@@ -43,12 +43,21 @@ public:
 
     BlockOutcome decode(const uint8_t *data, size_t size);
 
+    // Smart decoding remembers the profile that read the last block (or the
+    // last one tried) and tries it first on the next: nullptr before the
+    // first block. Decoding a block after remember(p) gives what decoding it
+    // right after the blocks that left p remembered gives.
+    const AstUap *remembered() const { return remembered_; }
+    void remember(const AstUap *uap) { remembered_ = uap; }
+
 private:
+    void smart_decode(const uint8_t *data, size_t size);
     // Decodes with one candidate (nullptr: the CAT001 plot/track mix).
     void attempt(AstDataBlock *out, const uint8_t *data, size_t size, const AstUap *candidate);
     std::string explain(const AstDataBlock &block, const uint8_t *data, size_t size, const AstUap *candidate);
 
     const AstUap *uap_;
+    const AstUap *remembered_ = nullptr;
     std::unique_ptr<AstDataBlock> block_;
     std::unique_ptr<AstDataBlock> trial_;
     std::unique_ptr<FailedRecord> failed_;
@@ -60,6 +69,20 @@ private:
 // "standard" (the smart decoder keeps the last profile that worked, which
 // is then also used for categories the variant does not change).
 const char *profile_label(const AstUap &uap, uint32_t category);
+
+// Silences the library log for its lifetime (restores the handler
+// registered with set_library_log after). With no handler registered it
+// does nothing, so decoding threads may use it at the same time.
+class QuietLog {
+public:
+    QuietLog();
+    ~QuietLog();
+    QuietLog(const QuietLog &) = delete;
+    QuietLog &operator=(const QuietLog &) = delete;
+
+private:
+    bool active_;
+};
 
 // Registers the library log handler (nullptr: off) and remembers it, so
 // that the tool can silence the library for a moment and restore it.

@@ -87,6 +87,15 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
     app->add_flag("--follow", o.follow,
                   "at the end of a file or pipe wait for more, like tail -f, until Ctrl-C (SIGINT) or SIGTERM; "
                   "then the rest is decoded and --stats printed");
+    app->add_flag("--log", o.log, "library log lines on standard error (decodes on one thread)");
+    app->add_option("--threads", o.threads,
+                    "decoding threads (default: one per core); the output is the same with any number. "
+                    "--format html and --log decode on one thread")
+        ->check(CLI::Range(1u, 1024u));
+    app->add_flag("--accept-empty-fspec", o.accept_empty_fspec,
+                  "accept a compound item whose primary subfield announces no subfield, and a record whose FSPEC "
+                  "announces no item (some recorders write them): they are read as holding nothing instead of "
+                  "making the block bad");
     app->add_option("files", o.files,
                     "pcap, pcapng, raw data blocks (plain or in a recorder framing) or hexadecimal text (also "
                     "xxd and hexdump -C output) (\"-\": standard input; pipes are decoded as they arrive); "

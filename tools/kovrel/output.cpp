@@ -49,10 +49,14 @@ size_t write_hex(char *p, const uint8_t *data, size_t n) {
 
 }  // namespace
 
+void put_hex(OutBuffer &out, const uint8_t *data, size_t size) {
+    if (size == 0 || !data) return;
+    out.advance(write_hex(out.room(size * 3 + 1), data, size));
+}
+
 void put_item_hex(OutBuffer &out, const AstDataItem &item) {
-    if (item.valid != 1 || item.length == 0 || !item.data) return;
-    const size_t n = static_cast<size_t>(item.length);
-    out.advance(write_hex(out.room(n * 3 + 1), item.data, n));
+    if (item.valid != 1) return;
+    put_hex(out, item.data, static_cast<size_t>(item.length));
 }
 
 RecordFormatter::RecordFormatter(OutBuffer &out) : out_(out), summary_(new char[kSummarySize]) {}
@@ -266,8 +270,16 @@ void RecordFormatter::json_line(const RecordView &v) {
     out_.put(",\"item_count\":", 14);
     out_.put_unsigned(r.item_count);
     out_.put(r.valid ? std::string_view(",\"valid\":true") : std::string_view(",\"valid\":false"));
-    out_.put(v.block_valid ? std::string_view(",\"block_valid\":true,\"fields\":")
-                           : std::string_view(",\"block_valid\":false,\"fields\":"));
+    out_.put(v.block_valid ? std::string_view(",\"block_valid\":true")
+                           : std::string_view(",\"block_valid\":false"));
+    if (!r.valid && !v.error.empty()) {
+        out_.put(",\"error\":", 9);
+        put_json_string(out_, v.error);
+        out_.put(",\"hex\":\"", 8);
+        put_hex(out_, v.undecoded, v.undecoded_size);
+        out_.put('"');
+    }
+    out_.put(",\"fields\":", 10);
     reader_.read(fields_, r, kAskAll);
     JsonWriter json(out_);
     write_fields_json(json, fields_);

@@ -16,10 +16,12 @@
 //
 // JSON object (one per line), keys in this order: input, block, offset,
 // packet and time (for captures; rx_time instead for live input: when the
-// datagram was received), src and dst (the
-// datagram's addresses, "192.0.2.1:8600", when known), cat, uap, record, length, item_count,
-// valid, block_valid, fields (see fields.h) and items: [{id, name, len,
-// hex, summary, fields}, ...]. offset is the block's octet offset: in the
+// datagram was received), src and dst (the datagram's addresses,
+// "192.0.2.1:8600", when known), cat, uap, record, length, item_count,
+// valid, block_valid, for the record a bad block stopped at error (why the
+// block is bad) and hex (its octets from where decoding stopped to the end
+// of the block, as items' hex), fields (see fields.h) and items: [{id,
+// name, len, hex, summary, fields}, ...]. offset is the block's octet offset: in the
 // input for raw and hex inputs, in the UDP payload of the packet for
 // captures. An item's fields are the library's description of its values
 // (ast_dataitem_get_fields_json); the key is left out for items that have
@@ -52,12 +54,19 @@ struct RecordView {
     const AstDataRecord *record = nullptr;
     size_t number = 0;       // record number in the block, from 1
     bool block_valid = true;
+    // The record a bad block stopped at: why, and its octets from where
+    // decoding stopped to the end of the block (none when nothing is left).
+    std::string_view error;
+    const uint8_t *undecoded = nullptr;
+    size_t undecoded_size = 0;
 };
 
 // The octets of an item as lower-case hexadecimal pairs separated by
 // blanks, as ast_dataitem_get_hex_str writes them (nothing for an item that
 // is not valid).
 void put_item_hex(OutBuffer &out, const AstDataItem &item);
+// Any octets the same way (nothing for none).
+void put_hex(OutBuffer &out, const uint8_t *data, size_t size);
 
 // Most characters of a summary; longer ones are cut.
 constexpr size_t kSummarySize = 4096;

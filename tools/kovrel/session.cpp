@@ -8,21 +8,16 @@
 #include <unistd.h>
 #include <vector>
 
+#include "block_runner.h"
 #include "blocks.h"
 #include "output.h"
 #include "output_html.h"
+#include "parallel.h"
 
 namespace kovrel_tool {
 namespace {
 
 constexpr size_t kHead = 64 * 1024;  // octets looked at to tell the kind of an input
-
-std::string cat_text(const uint8_t *data, size_t size) {
-    if (size == 0) return "";
-    char buf[8];
-    std::snprintf(buf, sizeof buf, "CAT%03u", data[0]);
-    return buf;
-}
 
 bool is_terminal(std::FILE *file) {
     const int fd = file ? fileno(file) : -1;
@@ -32,13 +27,29 @@ bool is_terminal(std::FILE *file) {
 }  // namespace
 
 DecodeSession::DecodeSession(const SessionSettings &settings, std::FILE *out, std::FILE *messages)
-    : settings_(settings), out_(out), messages_(messages), buffer_(out), formatter_(buffer_),
-      terminal_(is_terminal(out)), decoder_(settings.uap) {
+    : settings_(settings), out_(out), messages_(messages), buffer_(out), terminal_(is_terminal(out)) {
     if (settings_.filter && settings_.filter->empty()) settings_.filter = nullptr;
     stats_.filtered = settings_.filter != nullptr;
+    auto kept = [this](const AstDataBlock &block) { return kept_records(block); };
+    runner_ = std::make_unique<BlockRunner>(settings_, buffer_);
+    runner_->kept_records = kept;
+    runner_->after_record = [this] {
+        record_written();
+        return !output_failed_;
+    };
+    if (settings_.threads > 1) {
+        BatchWriter writer;
+        writer.write = [this](std::string_view records) {
+            if (output_failed_) return;
+            buffer_.put(records);
+            if (terminal_ || buffer_.full()) flush_buffer();
+        };
+        writer.message = [this](const std::string &input, const std::string &text) { print_message(input, text); };
+        writer.count = [this](const Stats &counts) { stats_.merge(counts); };
+        parallel_ = std::make_unique<ParallelDecoder>(settings_, settings_.threads, std::move(writer), kept);
+    }
     if (settings_.format == RecordFormat::Csv) {
-        csv_ = std::make_unique<CsvWriter>(buffer_, settings_.columns);
-        csv_->header();
+        CsvWriter(buffer_, settings_.columns).header();
         if (terminal_) flush();
     }
 }
@@ -54,6 +65,11 @@ void DecodeSession::set_output(std::FILE *out, HtmlPage *page) {
 }
 
 void DecodeSession::flush() {
+    if (parallel_) parallel_->drain();
+    flush_buffer();
+}
+
+void DecodeSession::flush_buffer() {
     if (buffer_.size() == 0) return;
     if (output_failed_) {
         buffer_.clear();
@@ -66,7 +82,12 @@ void DecodeSession::flush() {
 }
 
 void DecodeSession::message(const std::string &name, const std::string &text) {
-    flush();
+    if (parallel_) parallel_->drain();
+    print_message(name, text);
+}
+
+void DecodeSession::print_message(const std::string &name, const std::string &text) {
+    flush_buffer();
     if (before_message) before_message();
     std::fprintf(messages_, "kovrel: %s: %s\n", name.c_str(), text.c_str());
     std::fflush(messages_);
@@ -82,7 +103,7 @@ void DecodeSession::unreadable(const std::string &name, const std::string &why) 
 }
 
 void DecodeSession::record_written() {
-    if (terminal_ || buffer_.full()) flush();
+    if (terminal_ || buffer_.full()) flush_buffer();
 }
 
 void DecodeSession::check_output() {
@@ -264,9 +285,34 @@ void DecodeSession::decode_octets(const std::string &name, InputKind kind, const
 }
 
 bool DecodeSession::decode_chunk(const std::string &name, const Chunk &chunk, bool whole_input) {
+    // Each input is decoded as if it were the only one: smart decoding
+    // starts without a remembered profile, CAT240 without a video header.
+    bool fresh = block_no_ == 0;
+    const bool parallel = parallel_ && !page_;
+    if (fresh && !parallel) {
+        runner_->decoder().remember(nullptr);
+        runner_->video = VideoMemory{};
+        runner_->video.restore();
+    }
+    runner_->on_message = [&](const std::string &text) { message(name, text); };
+    runner_->on_record = nullptr;
+    if (page_)
+        runner_->on_record = [this](const RecordView &view) {
+            page_->record(view);
+            check_output();
+            return !output_failed_;
+        };
     for (const BlockSlice &slice : split_blocks(chunk)) {
         if (output_failed_) return false;
-        const uint64_t number = ++block_no_;
+        BlockTask task;
+        task.number = ++block_no_;
+        task.slice = slice;
+        task.time = chunk.time;
+        task.src = chunk.src;
+        task.dst = chunk.dst;
+        task.received = chunk.received;
+        // Offsets are in the input; a streamed chunk starts further on.
+        task.rest = chunk.size - (slice.where.offset - chunk.where.offset);
         if (whole_input && on_progress && chunk.size > 0)  // decoding is the second half, or all of it
             on_progress(read_first_ ? total_ / 2 + static_cast<uint64_t>(static_cast<double>(total_) / 2 *
                                                                          static_cast<double>(slice.where.offset) /
@@ -274,38 +320,11 @@ bool DecodeSession::decode_chunk(const std::string &name, const Chunk &chunk, bo
                                     : static_cast<uint64_t>(static_cast<double>(total_) *
                                                             static_cast<double>(slice.where.offset) /
                                                             static_cast<double>(chunk.size)));
-        const std::string at = "block " + std::to_string(number) + " at " + format_location(slice.where);
-        switch (slice.problem) {
-        case SliceProblem::ShortHeader:
-            message(name, at + ": " + std::to_string(slice.size) + " octets left, too few for a block header");
-            stats_.count_unusable(-1, slice.size);
-            stats_.count_reason(std::to_string(slice.size) + " octets left, too few for a block header");
-            break;
-        case SliceProblem::LengthTooSmall:
-            message(name, at + " (" + cat_text(slice.data, slice.size) + "): LEN " + std::to_string(slice.len) +
-                              " is below 3");
-            stats_.count_unusable(slice.data[0], slice.size);
-            stats_.count_reason("LEN " + std::to_string(slice.len) + " is below 3");
-            break;
-        case SliceProblem::None:
-        case SliceProblem::LengthTooLarge: {
-            const BlockOutcome outcome = decoder_.decode(slice.data, slice.size);
-            const uint64_t kept = kept_records(*outcome.block);
-            stats_.count_block(*outcome.block, slice.data[0], slice.size, outcome.valid, kept);
-            if (!outcome.valid) {
-                message(name, at + " (" + cat_text(slice.data, slice.size) + ", LEN " + std::to_string(slice.len) +
-                                  "): " + outcome.reason);
-                stats_.count_reason(outcome.reason);
-            }
-            emit(name, number, chunk, slice.where, outcome, kept);
-            break;
-        }
-        }
-        if (slice.problem == SliceProblem::LengthTooSmall || slice.problem == SliceProblem::LengthTooLarge) {
-            const uint64_t rest = chunk.size - (slice.where.offset - chunk.where.offset);
-            message(name, "the next block cannot be found; " + std::to_string(rest) + " octets from " +
-                              format_location(slice.where) + " on are skipped");
-        }
+        if (parallel)
+            parallel_->add(name, task, fresh);
+        else
+            runner_->run(name, task, stats_);
+        fresh = false;
     }
     return !output_failed_;
 }
@@ -316,45 +335,6 @@ uint64_t DecodeSession::kept_records(const AstDataBlock &block) const {
     for (uint64_t i = 0; i < block.record_count && i < 64; ++i)
         if (settings_.filter->matches(block.records[i])) kept |= uint64_t{1} << i;
     return kept;
-}
-
-void DecodeSession::emit(const std::string &name, uint64_t block, const Chunk &chunk, const Location &where,
-                         const BlockOutcome &outcome, uint64_t kept) {
-    const AstDataBlock &b = *outcome.block;
-    RecordView view;
-    view.input = name;
-    view.block = block;
-    view.where = where;
-    view.time = chunk.time;
-    view.src = chunk.src;
-    view.received = chunk.received;
-    view.dst = chunk.dst;
-    view.block_valid = outcome.valid;
-    auto one = [&](const AstDataRecord &record, size_t number) {
-        if (output_failed_) return;
-        view.record = &record;
-        view.number = number;
-        if (page_) {
-            page_->record(view);
-            check_output();
-            return;
-        }
-        switch (settings_.format) {
-        case RecordFormat::None: return;
-        case RecordFormat::Json: formatter_.json_line(view); break;
-        case RecordFormat::Csv: csv_->row(view); break;
-        case RecordFormat::Text:
-            formatter_.text_line(view);
-            if (settings_.items) formatter_.item_lines(record);
-            break;
-        }
-        record_written();
-    };
-    if (settings_.format == RecordFormat::None && !page_) return;
-    for (uint64_t i = 0; i < b.record_count && i < AST_DATABLOCK_MAX_RECORDS; ++i)
-        if (i >= 64 || (kept >> i & 1)) one(b.records[i], static_cast<size_t>(i) + 1);
-    if (outcome.failed && (!settings_.filter || settings_.filter->matches(outcome.failed->record)))
-        one(outcome.failed->record, outcome.failed->index + 1);
 }
 
 }  // namespace kovrel_tool

@@ -21,8 +21,10 @@
 
 namespace kovrel_tool {
 
+class BlockRunner;
 class HtmlPage;
 class StreamSource;
+class ParallelDecoder;
 
 // How records are written (without a page).
 enum class RecordFormat {
@@ -47,6 +49,9 @@ struct SessionSettings {
     // Keep reading files and pipes at their end, as they grow, until
     // SIGINT or SIGTERM.
     bool follow = false;
+    // Threads that decode and format blocks; 1: all on the calling thread.
+    // Several give the same output, byte for byte (see parallel.h).
+    unsigned threads = 1;
 };
 
 // Decodes inputs one after the other, writes the records to `out` and
@@ -119,11 +124,16 @@ private:
     bool decode_payload(const std::string &name, const Chunk &chunk);
     void stream_hex(const std::string &name, StreamSource &source);
     void stream_raw(const std::string &name, StreamSource &source);
+    // Decodes the blocks of a chunk; the octets are not used after it
+    // returns (decoding threads get a copy). The first chunk of an input
+    // comes with block_no_ 0.
     bool decode_chunk(const std::string &name, const Chunk &chunk, bool whole_input);
-    void emit(const std::string &name, uint64_t block, const Chunk &chunk, const Location &where,
-              const BlockOutcome &outcome, uint64_t kept);
-    // Bit i set when record i of the block passes the filter.
+    // Bit i set when record i of the block passes the filter. Called by
+    // several decoding threads at once: it must not change shared state.
     uint64_t kept_records(const AstDataBlock &block) const;
+    void flush_buffer();
+    // Prints a message (message() first writes every block handed over).
+    void print_message(const std::string &name, const std::string &text);
     void record_written();
     void check_output();
     void message(const std::string &name, const std::string &text);
@@ -134,10 +144,9 @@ private:
     std::FILE *messages_;
     HtmlPage *page_ = nullptr;
     OutBuffer buffer_;
-    RecordFormatter formatter_;
-    std::unique_ptr<CsvWriter> csv_;
     bool terminal_ = false;  // out is a terminal: records go out one by one
-    BlockDecoder decoder_;
+    std::unique_ptr<BlockRunner> runner_;      // decodes on this thread
+    std::unique_ptr<ParallelDecoder> parallel_;  // with several threads
     Stats stats_;
     uint64_t block_no_ = 0;
     uint64_t total_ = 0;  // octets of the current input, for progress

@@ -121,6 +121,40 @@ void Stats::count_unusable(int category, size_t size) {
     }
 }
 
+void Stats::merge(const Stats &o) {
+    blocks += o.blocks;
+    invalid += o.invalid;
+    records += o.records;
+    items += o.items;
+    octets += o.octets;
+    matched += o.matched;
+    for (const auto &[cat, c] : o.categories) {
+        CategoryCounts &mine = categories[cat];
+        mine.blocks += c.blocks;
+        mine.invalid += c.invalid;
+        mine.records += c.records;
+        mine.items += c.items;
+        mine.octets += c.octets;
+    }
+    for (const auto &[reason, n] : o.invalid_reasons) invalid_reasons[reason] += n;
+    for (const auto &[key, n] : o.label_counts_.counts) {
+        const char *label = o.labels_[key.a];
+        size_t l = 0;
+        while (l < labels_.size() && labels_[l] != label) ++l;
+        if (l == labels_.size()) labels_.push_back(label);
+        label_counts_.counts[{static_cast<uint32_t>(l), 0, 0}] += n;
+    }
+    for (const auto &[key, n] : o.type_counts_.counts) type_counts_.counts[key] += n;
+    for (const auto &[key, s] : o.source_counts_.spans) {
+        SourceSpan &mine = source_counts_.spans[key];
+        mine.records += s.records;
+        if (!s.has_time) continue;
+        if (!mine.has_time || s.first_ms < mine.first_ms) mine.first_ms = s.first_ms;
+        if (!mine.has_time || s.last_ms > mine.last_ms) mine.last_ms = s.last_ms;
+        mine.has_time = true;
+    }
+}
+
 void Stats::add_capture(const CaptureStats &s) {
     any_capture = true;
     capture.packets += s.packets;

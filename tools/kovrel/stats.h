@@ -58,6 +58,9 @@ struct Stats {
     // Why a block was bad (counted in invalid_reasons).
     void count_reason(const std::string &reason);
     void add_capture(const CaptureStats &c);
+    // Adds the block and record counts of `other` (counted over other
+    // blocks of the same run; its inputs and captures are not added).
+    void merge(const Stats &other);
 
     // Records per source with the earliest and latest time of day met
     // (milliseconds of the day; has_time false when no record of the
