@@ -39,8 +39,8 @@ TEST_F(ToolCli, ExitStatusesAndMessages) {
         {{"decode", "--format", "xml"}, 2, "--format: xml not in", ""},
         {{"decode", "--uap", "nosuch"}, 2, "unknown profile 'nosuch'; known: auto", ""},
         // A filter nothing matches still decodes the sample: status 0.
-        {{"decode", "--filter", "callsign=NOSUCH1", "--stats"}, 0, "matched         0", ""},
-        {{"decode", "--filter", "callsign=AFR71", "--stats"}, 0, "matched         108", ""},
+        {{"decode", "--filter", "callsign=NOSUCH1", "--stats"}, 0, "1060 read, 0 matched the filter, 0 printed", ""},
+        {{"decode", "--filter", "callsign=AFR71", "--stats"}, 0, "1060 read, 108 matched the filter, 0 printed", ""},
         // Nothing readable: status 1.
         {{"decode", "/nonexistent/input.pcap"}, 1, "/nonexistent/input.pcap: cannot open", ""},
     };

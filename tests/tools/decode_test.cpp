@@ -92,7 +92,7 @@ TEST(ToolDecode, RecordReasonsNameRecordAndItem) {
               "record 1 at octet 3: after I048/010, I048/130 (FRN 7) cannot be delimited in the 3 octets left");
     // The second record fails at its first item.
     EXPECT_EQ(reason({0x30, 0x00, 0x08, 0x80, 0x19, 0x01, 0x40, 0x46}),
-              "record 2 at octet 6: after the FSPEC, I048/140 (FRN 2) cannot be delimited in the 1 octets left");
+              "record 2 at octet 6: after the FSPEC, I048/140 (FRN 2) cannot be delimited in the 1 octet left");
     // FRN 2 of CAT062 is spare.
     EXPECT_EQ(reason({0x3E, 0x00, 0x06, 0xC0, 0x19, 0x64}),
               "record 1 at octet 3: after I062/010, FRN 2 is spare or undefined in profile standard");

@@ -246,12 +246,15 @@ TEST(ToolJson, RecordLineExactly) {
     // The item's fields are the library's own, and are there for I048/010.
     EXPECT_EQ(fields_member({0x19, 0x01}, 48010), R"(,"fields":{"sac":25,"sic":1})");
 
-    // A record the block stopped at: no length, the items read before.
+    // A record the block stopped at: no length, why, its octets from where
+    // decoding stopped, the items read before.
     const auto bad = decode_octets(block_of({{0x80, 0x19, 0x03}, {0x82, 0x19, 0x04, 0xE0, 0x29, 0x06}}), true);
     ASSERT_EQ(bad.lines.size(), 2u);
     EXPECT_EQ(bad.lines[1].substr(0, bad.lines[1].find(",\"items\":")),
               R"({"input":"in","block":1,"offset":0,"cat":48,"uap":"standard","record":2,"length":null,)"
-              R"("item_count":1,"valid":false,"block_valid":false,"fields":{})");
+              R"("item_count":1,"valid":false,"block_valid":false,"error":"no profile reads the whole block; )"
+              R"(furthest with standard: record 2 at octet 6: after I048/010, I048/130 (FRN 7) cannot be )"
+              R"(delimited in the 3 octets left","hex":"e0 29 06","fields":{})");
 }
 
 TEST(ToolText, LinesAsBefore) {

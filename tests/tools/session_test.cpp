@@ -125,7 +125,7 @@ TEST(ToolSession, CaptureWithSeveralBlocksPerDatagram) {
     const std::string m = run.messages.text();
     EXPECT_TRUE(has(m, "kovrel: cap.pcap: block 3 at pkt 2+0 (CAT048, LEN 9)")) << m;
     // A first fragment whose size is not a multiple of 8 cannot be one.
-    EXPECT_TRUE(has(m, "1 fragmented datagrams given up: overlapping or inconsistent fragments")) << m;
+    EXPECT_TRUE(has(m, "1 fragmented datagram given up: overlapping or inconsistent fragments")) << m;
     EXPECT_TRUE(has(m, "block 6 at pkt 5+0 (CAT048): LEN 0 is below 3")) << m;
     EXPECT_TRUE(has(m, "the next block cannot be found; 9 octets from pkt 5+0 on are skipped")) << m;
     // Only there: the bad block of packet 2 has a LEN to step on by.

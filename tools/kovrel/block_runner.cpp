@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "counted.h"
 #include "session.h"
 
 namespace kovrel_tool {
@@ -59,7 +60,7 @@ void BlockRunner::run(std::string_view name, const BlockTask &task, Stats &stats
     const std::string at = "block " + std::to_string(task.number) + " at " + format_location(slice.where);
     switch (slice.problem) {
     case SliceProblem::ShortHeader: {
-        const std::string why = std::to_string(slice.size) + " octets left, too few for a block header";
+        const std::string why = counted(slice.size, "octet") + " left, too few for a block header";
         tell(at + ": " + why);
         stats.count_unusable(-1, slice.size);
         stats.count_reason(why);
@@ -80,16 +81,17 @@ void BlockRunner::run(std::string_view name, const BlockTask &task, Stats &stats
                  "): " + outcome.reason);
             stats.count_reason(outcome.reason);
         }
-        emit(name, task, outcome, kept);
+        emit(name, task, outcome, kept, stats);
         break;
     }
     }
     if (slice.problem == SliceProblem::LengthTooSmall || slice.problem == SliceProblem::LengthTooLarge)
-        tell("the next block cannot be found; " + std::to_string(task.rest) + " octets from " +
+        tell("the next block cannot be found; " + counted(task.rest, "octet") + " from " +
              format_location(slice.where) + " on are skipped");
 }
 
-void BlockRunner::emit(std::string_view name, const BlockTask &task, const BlockOutcome &outcome, uint64_t kept) {
+void BlockRunner::emit(std::string_view name, const BlockTask &task, const BlockOutcome &outcome, uint64_t kept,
+                       Stats &stats) {
     if (settings_.format == RecordFormat::None && !on_record) return;
     const AstDataBlock &b = *outcome.block;
     RecordView view;
@@ -106,6 +108,7 @@ void BlockRunner::emit(std::string_view name, const BlockTask &task, const Block
         if (!writing) return;
         view.record = &record;
         view.number = number;
+        ++stats.printed;
         if (on_record) {
             writing = on_record(view);
             return;

@@ -64,7 +64,8 @@ public:
     std::function<bool()> after_record;
 
 private:
-    void emit(std::string_view name, const BlockTask &task, const BlockOutcome &outcome, uint64_t kept);
+    void emit(std::string_view name, const BlockTask &task, const BlockOutcome &outcome, uint64_t kept,
+              Stats &stats);
 
     const SessionSettings &settings_;
     OutBuffer &out_;

@@ -12,10 +12,12 @@ function(check_run label)
     message(FATAL_ERROR "${label}: exit status ${status}\n${err}")
   endif()
   # With --format json the statistics are one JSON object.
-  if(NOT err MATCHES "\n  invalid blocks  0\n" AND NOT err MATCHES "^{\"stats\":{.*\"invalid_blocks\":0,")
+  if(NOT err MATCHES "\n  blocks          [0-9]+ read: [0-9]+ valid, 0 invalid\n"
+     AND NOT err MATCHES "^{\"stats\":{.*\"blocks\":{[^}]*\"invalid\":0}")
     message(FATAL_ERROR "${label}: bad blocks reported\n${err}")
   endif()
-  if(NOT err MATCHES "\n  blocks          [1-9][0-9]*\n" AND NOT err MATCHES "^{\"stats\":{.*\"blocks\":[1-9][0-9]*,")
+  if(NOT err MATCHES "\n  blocks          [0-9]+ read: [1-9][0-9]* valid"
+     AND NOT err MATCHES "^{\"stats\":{.*\"blocks\":{[^}]*\"valid\":[1-9][0-9]*,")
     message(FATAL_ERROR "${label}: no block decoded\n${err}")
   endif()
   if(err MATCHES "kovrel: ")
@@ -46,8 +48,9 @@ if(NOT last_out MATCHES "^block,cat,sac,tod,I048/040.rho\n1,34,")
 endif()
 
 # --stats alone, and records thrown away, count without printing: the
-# same counts, no record.
+# same counts (none printed), no record.
 string(REGEX REPLACE "\n  time [^\n]*" "" counts "${builtin_err}")
+string(REGEX REPLACE ", [0-9]+ printed\n" ", 0 printed\n" counts "${counts}")
 foreach(args "--stats" "--stats;-o;/dev/null")
   execute_process(COMMAND ${KOVREL} ${args} RESULT_VARIABLE status OUTPUT_VARIABLE out ERROR_VARIABLE err)
   string(REGEX REPLACE "\n  time [^\n]*" "" err_counts "${err}")

@@ -6,6 +6,7 @@
 #include <bitset>
 #include <utility>
 
+#include "counted.h"
 #include "profiles.h"
 
 namespace kovrel_tool {
@@ -36,10 +37,10 @@ std::string id_text(AstItemId id) {
 }
 
 std::string header_problem(const uint8_t *data, size_t size) {
-    if (!data || size < 3) return "only " + std::to_string(size) + " octets, a block header takes 3";
+    if (!data || size < 3) return "only " + counted(size, "octet") + ", a block header takes 3";
     const uint32_t len = block_len(data);
     if (len < 3) return "LEN " + std::to_string(len) + " is below 3";
-    if (len > size) return "LEN " + std::to_string(len) + " exceeds the " + std::to_string(size) + " octets available";
+    if (len > size) return "LEN " + std::to_string(len) + " exceeds the " + counted(size, "octet") + " available";
     return "";
 }
 
@@ -277,9 +278,9 @@ std::string BlockDecoder::explain(const AstDataBlock &block, const uint8_t *data
     const size_t rest = left - static_cast<size_t>(pos);
     const uint64_t need = funcs.get_size(rec + pos, rest);
     if (need == 0)
-        return where + ": " + after + item + " cannot be delimited in the " + std::to_string(rest) + " octets left";
+        return where + ": " + after + item + " cannot be delimited in the " + counted(rest, "octet") + " left";
     if (need > rest)
-        return where + ": " + after + item + " claims " + std::to_string(need) + " octets, " + std::to_string(rest) +
+        return where + ": " + after + item + " claims " + counted(need, "octet") + ", " + std::to_string(rest) +
                " left";
     return where + ": " + after + item + " could not be read";
 }

@@ -51,7 +51,7 @@ void ParallelDecoder::add(const std::string &name, const BlockTask &task, bool f
     copy.slice.data = nullptr;  // the octets are at offsets[i] of octets
     b.tasks.push_back(copy);
     b.offsets.push_back(at);
-    if (b.octets.size() >= kBatchOctets) {
+    if (b.octets.size() >= settings_.batch_octets) {
         submit();
         write_ready(limit_);
     }

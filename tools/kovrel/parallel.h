@@ -2,7 +2,7 @@
 // would have written, byte for byte.
 //
 // The session hands blocks over in input order; they are gathered into
-// batches (about kBatchOctets of block octets, copied: the reader may reuse
+// batches (batch_octets of block octets or a little more, copied: the reader may reuse
 // its buffer) and each batch is decoded, counted and formatted by one of
 // the decoding threads into its own text, messages and counts. Batches are
 // written strictly in order, on the session's thread, messages where a
@@ -44,8 +44,6 @@ struct BatchWriter {
 
 class ParallelDecoder {
 public:
-    static constexpr size_t kBatchOctets = 256 * 1024;
-
     // `threads` decoding threads (at least 1) start at once.
     ParallelDecoder(const SessionSettings &settings, unsigned threads, BatchWriter writer,
                     std::function<uint64_t(const AstDataBlock &)> kept_records);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "block_runner.h"
+#include "counted.h"
 #include "blocks.h"
 #include "output.h"
 #include "output_html.h"
@@ -244,16 +245,16 @@ bool DecodeSession::decode_capture(const std::string &name, std::FILE *file) {
     stats_.add_capture(capture);
     if (!error.empty()) message(name, "capture ends early: " + error);
     if (capture.fragments_refused)
-        message(name, std::to_string(capture.fragments_refused) +
-                          " fragmented datagrams given up: overlapping or inconsistent fragments");
+        message(name, counted(capture.fragments_refused, "fragmented datagram") +
+                          " given up: overlapping or inconsistent fragments");
     if (capture.fragments_evicted)
-        message(name, std::to_string(capture.fragments_evicted) +
-                          " fragmented datagrams given up: too many waiting for their fragments at once");
+        message(name, counted(capture.fragments_evicted, "fragmented datagram") +
+                          " given up: too many waiting for their fragments at once");
     if (capture.fragments_incomplete)
-        message(name, std::to_string(capture.fragments_incomplete) +
-                          " fragmented datagrams incomplete at the end of the capture");
+        message(name, counted(capture.fragments_incomplete, "fragmented datagram") +
+                          " incomplete at the end of the capture");
     if (capture.truncated)
-        message(name, std::to_string(capture.truncated) + " packets skipped: cut short by the capture or malformed");
+        message(name, counted(capture.truncated, "packet") + " skipped: cut short by the capture or malformed");
     if (capture.udp == 0 && capture.packets > 0) message(name, "no UDP datagram in the capture");
     return true;
 }

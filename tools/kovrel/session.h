@@ -52,6 +52,8 @@ struct SessionSettings {
     // Threads that decode and format blocks; 1: all on the calling thread.
     // Several give the same output, byte for byte (see parallel.h).
     unsigned threads = 1;
+    // Octets of blocks a decoding thread takes at a time (several threads).
+    size_t batch_octets = 256 * 1024;
 };
 
 // Decodes inputs one after the other, writes the records to `out` and

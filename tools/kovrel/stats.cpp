@@ -33,8 +33,15 @@ std::string reason_kind(const std::string &reason) {
         const char before = i ? reason[i - 1] : ' ';
         if (digit && !std::isalnum(static_cast<unsigned char>(before)) && before != '_' && before != '/' &&
             !ends_with(out, "below ") && !ends_with(out, "more than ")) {
+            const size_t from = i;
             while (i < reason.size() && std::isdigit(static_cast<unsigned char>(reason[i]))) ++i;
             out += 'N';
+            // "1 octet" is counted with "2 octets".
+            if (i - from == 1 && reason[from] == '1' && reason.compare(i, 6, " octet") == 0 &&
+                (i + 6 == reason.size() || reason[i + 6] != 's')) {
+                out += " octets";
+                i += 6;
+            }
             continue;
         }
         out += c;
@@ -123,6 +130,7 @@ void Stats::count_unusable(int category, size_t size) {
 
 void Stats::merge(const Stats &o) {
     blocks += o.blocks;
+    printed += o.printed;
     invalid += o.invalid;
     records += o.records;
     items += o.items;
@@ -180,10 +188,11 @@ void Stats::print(std::FILE *out, double seconds) const {
                      u(capture.reassembled),
                      u(capture.fragments_refused + capture.fragments_evicted + capture.fragments_incomplete),
                      u(capture.truncated));
-    std::fprintf(out, "  blocks          %llu\n", u(blocks));
-    std::fprintf(out, "  invalid blocks  %llu\n", u(invalid));
-    std::fprintf(out, "  records         %llu\n", u(records));
-    if (filtered) std::fprintf(out, "  matched         %llu (records that passed the filter)\n", u(matched));
+    std::fprintf(out, "  blocks          %llu read: %llu valid, %llu invalid\n", u(blocks + invalid), u(blocks),
+                 u(invalid));
+    std::fprintf(out, "  records         %llu read", u(records));
+    if (filtered) std::fprintf(out, ", %llu matched the filter", u(matched));
+    std::fprintf(out, ", %llu printed\n", u(printed));
     std::fprintf(out, "  items           %llu\n", u(items));
     std::fprintf(out, "  octets          %llu\n", u(octets));
     const double mb = static_cast<double>(octets) / 1e6;
@@ -238,10 +247,11 @@ void Stats::print_json(std::FILE *out, double seconds) const {
                         {"fragments_given_up",
                          capture.fragments_refused + capture.fragments_evicted + capture.fragments_incomplete},
                         {"truncated", capture.truncated}};
-    j["blocks"] = blocks;
-    j["invalid_blocks"] = invalid;
-    j["records"] = records;
-    if (filtered) j["matched"] = matched;
+    j["blocks"] = {{"read", blocks + invalid}, {"valid", blocks}, {"invalid", invalid}};
+    json records_json = {{"read", records}};
+    if (filtered) records_json["matched"] = matched;
+    records_json["printed"] = printed;
+    j["records"] = records_json;
     j["items"] = items;
     j["octets"] = octets;
     j["seconds"] = seconds;

@@ -41,6 +41,9 @@ struct Stats {
     // those are counted per profile, source and message type.
     bool filtered = false;
     uint64_t matched = 0;
+    // Records written out (in every format, the records bad blocks stopped
+    // at included; none when the records are only counted).
+    uint64_t printed = 0;
 
     std::map<uint32_t, CategoryCounts> categories;
     // Bad blocks per reason, with the numbers of each case left out
