@@ -81,6 +81,11 @@ TEST(ToolBlocks, StopsWhereTheNextBlockIsUnknown) {
 
 TEST(ToolDecode, HeaderReasons) {
     EXPECT_EQ(reason({0x30, 0x00}), "only 2 octets, a block header takes 3");
+    EXPECT_EQ(reason({0x30}), "only 1 octet, a block header takes 3");
+    // A category the library does not know is named, with one profile or smartly.
+    EXPECT_EQ(reason({0x1E, 0x00, 0x06, 0x80, 0x19, 0x01}), "category 030 is not supported");
+    EXPECT_EQ(reason({0x1E, 0x00, 0x06, 0x80, 0x19, 0x01}, nullptr), "category 030 is not supported");
+    EXPECT_EQ(reason({0xFF, 0x00, 0x04, 0x00}, nullptr), "category 255 is not supported");
     EXPECT_EQ(reason({0x30, 0x00, 0x02}), "LEN 2 is below 3");
     EXPECT_EQ(reason({0x30, 0x00, 0x10, 0x80, 0x19, 0x01}), "LEN 16 exceeds the 6 octets available");
     EXPECT_EQ(reason(sacsic_block(1, 65)), "more than 64 records");
