@@ -1,6 +1,6 @@
 #!/bin/sh
 # Times `kovrel decode` on one core over a large CAT048 recording, for each
-# way it writes records, beside the library's own decode speed on the same
+# way it writes records, then on one thread against every core, beside the library's own decode speed on the same
 # file (the yardstick: what the tool costs on top of decoding).
 #
 #   bench/tool_bench.sh [BUILD_DIR] [MEGABYTES]
@@ -97,3 +97,15 @@ row "--stats --filter sacsic=$sacsic" "$(best_of $pin "$kovrel" decode --stats -
 row "--stats --filter callsign=NONE" "$(best_of $pin "$kovrel" decode --stats --filter callsign=NONE "$recording")"
 row "text --filter sacsic=$sacsic (all kept)" "$(best_of $pin "$kovrel" decode --filter "sacsic=$sacsic" "$recording")"
 row "text --filter mode3a=7700 (few kept)" "$(best_of $pin "$kovrel" decode --filter mode3a=7700 "$recording")"
+
+# All cores: the same outputs on 1 and on every core (no pinning), and the
+# speed-up. Records still go through the shell to /dev/null, so they are
+# formatted; -o /dev/null decodes and counts only.
+cores=$(nproc 2>/dev/null || echo 1)
+echo "threads: 1 against $cores (every core)"
+for threads in 1 "$cores"; do
+    row "--format json, --threads $threads" "$(best_of "$kovrel" decode --threads "$threads" --format json "$recording")"
+    row "--format json -o /dev/null, --threads $threads" \
+        "$(best_of "$kovrel" decode --threads "$threads" --format json -o /dev/null "$recording")"
+    row "text, --threads $threads" "$(best_of "$kovrel" decode --threads "$threads" "$recording")"
+done

@@ -495,11 +495,6 @@ PYBIND11_MODULE(_kovrel, m) {
     m.doc() = "The kovrel library's bindings; use the kovrel package.";
     // Problems reach Python as exceptions and warnings, not as log lines.
     kovrel_tool::set_library_log(nullptr);
-    // The profile labels are worked out once per profile and category and
-    // kept in a table shared by every decoder; filling it here, before any
-    // thread decodes, leaves the decoding threads only reading it.
-    for (const auto &p : kovrel_tool::profiles())
-        for (uint32_t category = 0; category < 256; ++category) kovrel_tool::profile_label(*p.uap, category);
     static PyObject *decode_error = PyErr_NewExceptionWithDoc(
         "kovrel.DecodeError", "Octets that are not a data block; the message is the decoder's reason.",
         PyExc_ValueError, nullptr);

@@ -2,6 +2,7 @@
 #include <cerrno>
 #include <chrono>
 #include <csignal>
+#include <sched.h>
 #include <cstring>
 #include <sys/stat.h>
 #include <thread>
@@ -44,6 +45,14 @@ std::FILE *open_output(const std::string &path) {
 bool is_null_device(const std::string &path) {
     struct stat a, b;
     return stat(path.c_str(), &a) == 0 && stat("/dev/null", &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+// The cores this process may run on (taskset and container limits
+// included), at least 1.
+unsigned cores() {
+    cpu_set_t set;
+    if (sched_getaffinity(0, sizeof set, &set) == 0 && CPU_COUNT(&set) > 0) return static_cast<unsigned>(CPU_COUNT(&set));
+    return std::max(1u, std::thread::hardware_concurrency());
 }
 
 }  // namespace
@@ -144,7 +153,7 @@ int run_decode(const DecodeOptions &options) {
     if (options.accept_empty_fspec) ast_library_set_option(AST_OPTION_ACCEPT_EMPTY_FSPEC);
     // Library log lines are printed as they come, in the order of the
     // decoding threads; the page is written as the records come.
-    settings.threads = options.threads ? options.threads : std::max(1u, std::thread::hardware_concurrency());
+    settings.threads = options.threads ? options.threads : cores();
     if (html || options.log) settings.threads = 1;
     std::FILE *out = stdout;
     if (!options.output.empty() && !(out = open_output(options.output))) return 1;

@@ -89,7 +89,7 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                   "then the rest is decoded and --stats printed");
     app->add_flag("--log", o.log, "library log lines on standard error (decodes on one thread)");
     app->add_option("--threads", o.threads,
-                    "decoding threads (default: one per core); the output is the same with any number. "
+                    "decoding threads (default: one per core this process may use); the output is the same with any number. "
                     "--format html and --log decode on one thread")
         ->check(CLI::Range(1u, 1024u));
     app->add_flag("--accept-empty-fspec", o.accept_empty_fspec,
