@@ -9,6 +9,7 @@
 #include <cstring>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 namespace kovrel_tool {
 
@@ -58,6 +59,12 @@ public:
     }
     std::string_view view() const { return {data_.get(), used_}; }
     void clear() { used_ = 0; }
+    // Exchanges what two buffers hold (their files and flush sizes stay).
+    void swap_contents(OutBuffer &other) {
+        std::swap(data_, other.data_);
+        std::swap(capacity_, other.capacity_);
+        std::swap(used_, other.used_);
+    }
 
     bool full() const { return used_ >= flush_at_; }
     // Writes what is held to the file and empties the buffer. Returns false

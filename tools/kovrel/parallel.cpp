@@ -8,10 +8,10 @@ namespace kovrel_tool {
 
 struct ParallelDecoder::Worker {
     Worker(const SessionSettings &settings, const std::function<uint64_t(const AstDataBlock &)> &kept)
-        : out(nullptr, SIZE_MAX), runner(settings, out) {
+        : out(nullptr), runner(settings, out) {
         runner.kept_records = kept;
     }
-    OutBuffer out;  // never flushed: a batch's text is handed on whole
+    OutBuffer out;  // never flushed: a batch's text is handed over whole
     BlockRunner runner;
     std::thread thread;
 };
@@ -95,7 +95,6 @@ void ParallelDecoder::work(Worker &worker) {
 }
 
 void ParallelDecoder::decode(Worker &w, Batch &b) {
-    b.out.clear();
     b.messages.clear();
     b.stats = std::make_unique<Stats>();
     w.out.clear();
@@ -109,7 +108,7 @@ void ParallelDecoder::decode(Worker &w, Batch &b) {
         w.runner.run(b.name, task, *b.stats);
     }
     w.runner.on_message = nullptr;
-    b.out.assign(w.out.view());
+    b.out.swap_contents(w.out);
     w.out.clear();
     b.end.profile = w.runner.decoder().remembered();
     b.end.video = w.runner.video;
@@ -140,11 +139,11 @@ void ParallelDecoder::write_ready(size_t in_flight) {
         }
         size_t at = 0;
         for (const auto &[pos, text] : b.messages) {
-            if (pos > at) writer_.write(std::string_view(b.out).substr(at, pos - at));
+            if (pos > at) writer_.write(b.out.view().substr(at, pos - at));
             writer_.message(b.name, text);
             at = pos;
         }
-        if (at < b.out.size()) writer_.write(std::string_view(b.out).substr(at));
+        if (at < b.out.size()) writer_.write(b.out.view().substr(at));
         writer_.count(*b.stats);
         written_ = b.end;
     }

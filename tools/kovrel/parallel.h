@@ -30,6 +30,7 @@
 #include <vector>
 
 #include "block_runner.h"
+#include "out_buffer.h"
 
 namespace kovrel_tool {
 
@@ -75,7 +76,7 @@ private:
         std::vector<size_t> offsets;   // of each task's octets in octets
         Start start, end;
         bool fresh = false;
-        std::string out;
+        OutBuffer out{nullptr, 0};
         std::vector<std::pair<size_t, std::string>> messages;  // at which character of out
         std::unique_ptr<Stats> stats;
         bool done = false;

@@ -42,8 +42,18 @@ DecodeSession::DecodeSession(const SessionSettings &settings, std::FILE *out, st
         BatchWriter writer;
         writer.write = [this](std::string_view records) {
             if (output_failed_) return;
-            buffer_.put(records);
-            if (terminal_ || buffer_.full()) flush_buffer();
+            if (records.size() < 64 * 1024) {
+                buffer_.put(records);
+                if (terminal_ || buffer_.full()) flush_buffer();
+                return;
+            }
+            flush_buffer();  // then written as it is, without another copy
+            errno = 0;
+            if (!output_failed_ && (std::fwrite(records.data(), 1, records.size(), out_) != records.size() ||
+                                    std::ferror(out_))) {
+                output_failed_ = true;
+                output_errno_ = errno ? errno : EIO;
+            }
         };
         writer.message = [this](const std::string &input, const std::string &text) { print_message(input, text); };
         writer.count = [this](const Stats &counts) { stats_.merge(counts); };
