@@ -133,6 +133,9 @@ void BlockDecoder::attempt(AstDataBlock *out, const uint8_t *data, size_t size, 
 // The library's smart decoder, step for step, with the remembered profile
 // kept here instead of in a thread_local: the tool decides when it starts
 // afresh (each input) and carries it from one decoding thread to the next.
+// (The library starts without a profile and takes the standard one at the
+// first block it reads by profile; starting with the standard one is the
+// same.)
 void BlockDecoder::smart_decode(const uint8_t *data, size_t size) {
     AstDataBlock *out = block_.get();
     if (!data || size < 3) {
@@ -143,7 +146,6 @@ void BlockDecoder::smart_decode(const uint8_t *data, size_t size) {
         ast_datablock_001_mixuap_decode_into(out, data, size);
         if (out->valid == 1) return;
     }
-    if (!remembered_) remembered_ = &AST_UAP_STANDARD;
     ast_datablock_decode_into(out, data, size, remembered_);
     if (out->valid == 1) return;
     // Every candidate is tried in turn, the remembered one again unless it

@@ -44,11 +44,12 @@ public:
     BlockOutcome decode(const uint8_t *data, size_t size);
 
     // Smart decoding remembers the profile that read the last block (or the
-    // last one tried) and tries it first on the next: nullptr before the
-    // first block. Decoding a block after remember(p) gives what decoding it
-    // right after the blocks that left p remembered gives.
+    // last one tried) and tries it first on the next: the standard profile
+    // before the first block. Decoding a block after remember(p) gives what
+    // decoding it right after the blocks that left p remembered gives
+    // (nullptr: start afresh).
     const AstUap *remembered() const { return remembered_; }
-    void remember(const AstUap *uap) { remembered_ = uap; }
+    void remember(const AstUap *uap) { remembered_ = uap ? uap : &AST_UAP_STANDARD; }
 
 private:
     void smart_decode(const uint8_t *data, size_t size);
@@ -57,7 +58,7 @@ private:
     std::string explain(const AstDataBlock &block, const uint8_t *data, size_t size, const AstUap *candidate);
 
     const AstUap *uap_;
-    const AstUap *remembered_ = nullptr;
+    const AstUap *remembered_ = &AST_UAP_STANDARD;
     std::unique_ptr<AstDataBlock> block_;
     std::unique_ptr<AstDataBlock> trial_;
     std::unique_ptr<FailedRecord> failed_;

@@ -135,7 +135,6 @@ void ParallelDecoder::write_ready(size_t in_flight) {
             if (!own_) own_ = std::make_unique<Worker>(settings_, kept_records_);
             b.start = expected;
             decode(*own_, b);
-            ++redone_;
         }
         size_t at = 0;
         for (const auto &[pos, text] : b.messages) {

@@ -60,12 +60,9 @@ public:
     // are written.
     void drain();
 
-    // Batches decoded again from the right start (for tests and --stats).
-    uint64_t redone() const { return redone_; }
-
 private:
     struct Start {
-        const AstUap *profile = nullptr;
+        const AstUap *profile = &AST_UAP_STANDARD;  // what smart decoding tries first
         VideoMemory video;
         bool operator==(const Start &other) const = default;
     };
@@ -103,7 +100,6 @@ private:
     std::vector<std::unique_ptr<Worker>> workers_;
     std::unique_ptr<Worker> own_;  // decodes again on the session's thread
     Start written_;                // what the last written batch left
-    uint64_t redone_ = 0;
 };
 
 }  // namespace kovrel_tool
