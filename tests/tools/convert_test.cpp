@@ -105,7 +105,7 @@ TEST(ConvertTool, RawBlocksInRawBlocksOut) {
         // The second record announces I048/140 but the block ends first.
         {"a block that stops", "30 00 08  80 19 0D  C0 19", false, "01 00 06 80 19 0D",
          "kovrel: in1: block 1 at @0 (CAT048, LEN 8): no profile reads the whole block; furthest with standard: "
-         "record 2 at octet 6: after the FSPEC, I048/010 (FRN 1) cannot be delimited in the 1 octets left; the "
+         "record 2 at octet 6: after the FSPEC, I048/010 (FRN 1) cannot be delimited in the 1 octet left; the "
          "rest of the block is not converted\n"},
         {"LEN past the end", "30 00 20 80 19 0D", false, "",
          "kovrel: in1: block 1 at @0: (CAT048) LEN 32 exceeds the octets left; 6 octets from @0 on are "

@@ -10,6 +10,7 @@
 #include <sys/stat.h>
 
 #include "blocks.h"
+#include "counted.h"
 
 namespace kovrel_tool {
 namespace {
@@ -226,10 +227,10 @@ void BlockConverter::convert(const std::string &name, const Chunk &chunk, std::v
         if (slice.problem != SliceProblem::None) {
             const std::string what =
                 slice.problem == SliceProblem::ShortHeader
-                    ? std::to_string(slice.size) + " octets left, too few for a block header"
+                    ? counted(slice.size, "octet") + " left, too few for a block header"
                     : "(" + cat_text(slice.data[0]) + ") LEN " + std::to_string(slice.len) +
                           (slice.problem == SliceProblem::LengthTooSmall ? " is below 3" : " exceeds the octets left");
-            message(name, at + ": " + what + "; " + std::to_string(slice.size) + " octets from " +
+            message(name, at + ": " + what + "; " + counted(slice.size, "octet") + " from " +
                               format_location(slice.where) + " on are dropped");
             break;
         }
