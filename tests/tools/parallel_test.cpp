@@ -80,23 +80,28 @@ TEST(ToolParallel, SameOutputOnAnyNumberOfThreads) {
         RecordFormat format;
         bool items;
         const char *columns;
+        const char *filter;  // --filter condition, or nullptr
     };
     const Format formats[] = {
-        {"text", RecordFormat::Text, false, nullptr},
-        {"text --items", RecordFormat::Text, true, nullptr},
-        {"json", RecordFormat::Json, false, nullptr},
-        {"csv", RecordFormat::Csv, false, "block,offset,cat,uap,record,valid,sac,sic,I240/050.length,I240/048.res"},
-        {"counts only", RecordFormat::None, false, nullptr},
+        {"text", RecordFormat::Text, false, nullptr, nullptr},
+        {"text --items", RecordFormat::Text, true, nullptr, nullptr},
+        {"json", RecordFormat::Json, false, nullptr, nullptr},
+        {"json --filter", RecordFormat::Json, false, nullptr, "sacsic=25/1"},
+        {"csv", RecordFormat::Csv, false, "block,offset,cat,uap,record,valid,sac,sic,I240/050.length,I240/048.res",
+         nullptr},
+        {"counts only", RecordFormat::None, false, nullptr, nullptr},
+        {"counts only --filter", RecordFormat::None, false, nullptr, "sacsic=25/51"},
     };
     for (size_t i = 0; i < inputs.size(); ++i) {
         for (const Format &f : formats) {
             SessionSettings s;
             s.format = f.format;
             s.items = f.items;
-            if (f.columns) {
-                std::string error;
-                ASSERT_TRUE(parse_csv_columns(f.columns, s.columns, error)) << error;
-            }
+            std::string error;
+            ASSERT_TRUE(!f.columns || parse_csv_columns(f.columns, s.columns, error)) << error;
+            RecordFilter filter;
+            ASSERT_TRUE(!f.filter || filter.add_condition(f.filter, error)) << error;
+            s.filter = &filter;
             const std::string one = run(s, inputs[i]);
             // Every block its own batch, a few blocks a batch, all in one.
             for (unsigned threads : {2u, 4u}) {
