@@ -61,7 +61,10 @@ struct SessionSettings {
 // line "kovrel: INPUT: ...". Blocks are numbered from 1 in each input.
 // Records are formatted into a buffer that goes out in large writes: when
 // it is full, before each message, and when an input is done (after every
-// record when `out` is a terminal).
+// record when `out` is a terminal). With settings.threads above 1 the
+// blocks are decoded and formatted on that many threads and written in
+// input order (see parallel.h): the output is the same, byte for byte.
+// Each input is decoded as if it were the only one.
 //
 // A bad block is reported and the next one decoded: the next block starts
 // LEN octets further when LEN is at least 3 and fits the chunk; otherwise
