@@ -249,9 +249,11 @@ TEST_F(UdpLive, DecodesDatagramsAsTheyArrive) {
         const json stats = json::parse(run.err.substr(brace, run.err.find('\n', brace) - brace))["stats"];
         EXPECT_EQ(stats["inputs"], 1);
         EXPECT_EQ(stats["packets"]["read"], 4);
-        EXPECT_EQ(stats["blocks"], 3);
-        EXPECT_EQ(stats["invalid_blocks"], 2);
-        EXPECT_EQ(stats["records"], 4);
+        EXPECT_EQ(stats["blocks"]["read"], 5);
+        EXPECT_EQ(stats["blocks"]["valid"], 3);
+        EXPECT_EQ(stats["blocks"]["invalid"], 2);
+        EXPECT_EQ(stats["records"]["read"], 4);
+        EXPECT_EQ(stats["records"]["printed"], 4);
 
         if (!c.record) continue;
         // The recording decodes to the same records, the input's name aside.
@@ -314,7 +316,7 @@ TEST_F(UdpLive, EndsOnSignalsAndTimeWithNothingReceived) {
         const ToolRun run = tool.finish(10);
         EXPECT_EQ(run.status, 0) << run.err;
         EXPECT_NE(run.err.find(": nothing received\n"), std::string::npos) << run.err;
-        EXPECT_NE(run.err.find("records         0\n"), std::string::npos) << run.err;
+        EXPECT_NE(run.err.find("records         0 read, 0 printed\n"), std::string::npos) << run.err;
     }
 }
 

@@ -154,7 +154,9 @@ int run_decode(const DecodeOptions &options) {
     // Library log lines are printed as they come, in the order of the
     // decoding threads; the page is written as the records come.
     settings.threads = options.threads ? options.threads : cores();
-    if (html || options.log) settings.threads = 1;
+    // Live datagrams are decoded and written one by one as they arrive:
+    // handing each to another thread would only add latency.
+    if (html || options.log || listening) settings.threads = 1;
     std::FILE *out = stdout;
     if (!options.output.empty() && !(out = open_output(options.output))) return 1;
     // A reader that goes away (`kovrel | head`) ends the run quietly.

@@ -68,7 +68,6 @@ void add_decode_options(CLI::App *app, kovrel_tool::DecodeOptions &o) {
                     "html: embed at most N records in the page's table, plot and record views (the page says how "
                     "many were left out; its overview counts every record)")
         ->capture_default_str();
-    app->add_flag("--log", o.log, "library log lines on standard error");
     app->add_option("--count", o.count,
                     "udp:// inputs: stop once N records were decoded (records of valid blocks that pass the "
                     "filters; the datagram that reaches N is decoded whole)")

@@ -45,7 +45,7 @@ void put_real(OutBuffer &out, double value, int decimals) {
     out.put(text, end);
 }
 
-void put_hex(OutBuffer &out, const uint8_t *data, size_t size) {
+void put_hex_run(OutBuffer &out, const uint8_t *data, size_t size) {
     static const char kDigits[] = "0123456789abcdef";
     char *p = out.room(size * 2);
     for (size_t i = 0; i < size; ++i) {
@@ -263,7 +263,7 @@ void HtmlPage::record(const RecordView &v) {
         t.put_unsigned(item.length);
         t.put(",\"");
         if (item.valid && item.data)
-            put_hex(t, item.data, item.length < kHexTableOctets ? static_cast<size_t>(item.length) : kHexTableOctets);
+            put_hex_run(t, item.data, item.length < kHexTableOctets ? static_cast<size_t>(item.length) : kHexTableOctets);
         t.put("\",");
         ast_dataitem_get_summary(s.summary.data(), s.summary.size(), &item);
         put_string(t, s.summary.data());
