@@ -166,14 +166,6 @@ def _as_date(date: Union[None, str, _datetime.date]) -> Optional[_datetime.date]
     return _datetime.date.fromisoformat(date)
 
 
-def _nanoseconds(np, seconds):
-    """Seconds as int64 nanoseconds, NaN as NaT's value."""
-    out = np.full(len(seconds), np.iinfo(np.int64).min, dtype=np.int64)
-    known = ~np.isnan(seconds)
-    out[known] = np.round(seconds[known] * 1e9).astype(np.int64)
-    return out
-
-
 def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None, uap: str = "auto",
                  date: Union[None, str, _datetime.date] = None, filter: Union[None, str, Sequence[str]] = None):
     """One row per record, in the columns of ``kovrel decode --format csv``.
@@ -210,17 +202,17 @@ def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None
         if kind == "int":
             series = pd.Series(values, dtype="int64", copy=False)
         elif kind == "int?":
-            series = pd.Series(pd.arrays.IntegerArray(values, extra == 0))
+            series = pd.Series(pd.arrays.IntegerArray(values, extra.view(bool)))
         elif kind == "real":
             series = pd.Series(values, dtype="float64", copy=False)
         elif kind == "bool":
-            series = pd.Series(values.astype(bool, copy=False))
+            series = pd.Series(values.view(bool))
         elif kind == "text":
             series = pd.Series(pd.Categorical.from_codes(values, categories=extra))
         elif kind == "time":
-            series = pd.Series(_nanoseconds(np, values).view("M8[ns]")).dt.tz_localize("UTC")
+            series = pd.Series(values.view("M8[ns]")).dt.tz_localize("UTC")
         elif kind == "tod":
-            series = pd.Series(_nanoseconds(np, values).view("m8[ns]"))
+            series = pd.Series(values.view("m8[ns]"))
             if day is not None:
                 series = pd.Timestamp(day, tz="UTC") + series
         else:  # no record had a value

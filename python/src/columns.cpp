@@ -17,6 +17,7 @@ enum ViewColumn {
 };
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr int64_t kNoTime = std::numeric_limits<int64_t>::min();  // NaT
 
 Column::Kind view_kind(int record, bool &nullable) {
     nullable = record == kPacket || record == kLength;
@@ -44,19 +45,118 @@ Column::Kind field_kind(RecordField f) {
     }
 }
 
+using Source = ColumnSink::Source;
+
+Source view_source(int record) {
+    switch (record) {
+    case kInput: return Source::Input;
+    case kBlock: return Source::Block;
+    case kOffset: return Source::Offset;
+    case kPacket: return Source::Packet;
+    case kTime: return Source::Time;
+    case kCat: return Source::Cat;
+    case kUap: return Source::Uap;
+    case kRecord: return Source::Record;
+    case kLength: return Source::Length;
+    case kItemCount: return Source::ItemCount;
+    case kValid: return Source::Valid;
+    default: return Source::BlockValid;
+    }
+}
+
+Source field_source(RecordField f) {
+    switch (f) {
+    case RecordField::Sac: return Source::Sac;
+    case RecordField::Sic: return Source::Sic;
+    case RecordField::Track: return Source::Track;
+    case RecordField::Tod: return Source::Tod;
+    case RecordField::MsgType: return Source::MsgType;
+    case RecordField::Mode3a: return Source::Mode3a;
+    case RecordField::Callsign: return Source::Callsign;
+    case RecordField::Icao: return Source::Icao;
+    default: return Source::RealField;
+    }
+}
+
+// The member of a record field that is a real.
+double kovrel_tool::RecordFields::*real_member(RecordField f) {
+    using F = kovrel_tool::RecordFields;
+    switch (f) {
+    case RecordField::Fl: return &F::fl;
+    case RecordField::SelAlt: return &F::sel_alt;
+    case RecordField::Lat: return &F::lat;
+    case RecordField::Lon: return &F::lon;
+    case RecordField::Rho: return &F::rho;
+    case RecordField::Theta: return &F::theta;
+    case RecordField::Speed: return &F::speed;
+    case RecordField::Heading: return &F::heading;
+    case RecordField::Vx: return &F::vx;
+    case RecordField::Vy: return &F::vy;
+    case RecordField::Vrate: return &F::vrate;
+    default: return nullptr;
+    }
+}
+
 std::string_view int_text(int64_t v, char (&buf)[32]) {
     return {buf, static_cast<size_t>(std::to_chars(buf, buf + sizeof buf, v).ptr - buf)};
 }
 
 }  // namespace
 
+int32_t &KeyCodes::at(uint64_t key) {
+    if (2 * (used_ + 1) > slots_.size()) {
+        std::vector<Slot> old(slots_.size() * 2);
+        old.swap(slots_);
+        used_ = 0;
+        for (const Slot &s : old)
+            if (s.used) at(s.key) = s.code;
+    }
+    const size_t mask = slots_.size() - 1;
+    for (size_t i = static_cast<size_t>((key * 0x9E3779B97F4A7C15ull) >> 32) & mask;; i = (i + 1) & mask) {
+        Slot &s = slots_[i];
+        if (s.used && s.key == key) return s.code;
+        if (!s.used) {
+            s = Slot{key, -1, true};
+            ++used_;
+            return s.code;
+        }
+    }
+}
+
+int32_t TextTable::code(std::string_view text) {
+    if (last_text_code_ >= 0 && texts_[static_cast<size_t>(last_text_code_)] == text) return last_text_code_;
+    const auto it = by_text_.find(text);
+    if (it != by_text_.end()) return last_text_code_ = it->second;
+    const int32_t c = static_cast<int32_t>(texts_.size());
+    texts_.emplace_back(text);
+    by_text_.emplace(std::string_view(texts_.back()), c);
+    return last_text_code_ = c;
+}
+
 size_t Column::size() const {
     switch (kind) {
     case Unknown: return pending;
-    case Int: return ints.size();
-    case Bool: return valid.size();
+    case Int:
+    case Time:
+    case Tod: return ints.size();
+    case Bool: return bytes.size();
     case Text: return codes.size();
     default: return reals.size();
+    }
+}
+
+void Column::reserve(size_t rows) {
+    switch (kind) {
+    case Unknown: break;
+    case Int:
+        ints.reserve(rows);
+        if (nullable) bytes.reserve(rows);
+        break;
+    case Time:
+    case Tod: ints.reserve(rows); break;
+    case Bool: bytes.reserve(rows); break;
+    case Text: codes.reserve(rows); break;
+    default: reals.reserve(rows); break;
     }
 }
 
@@ -65,9 +165,11 @@ void Column::put_missing() {
     case Unknown: ++pending; break;
     case Int:
         ints.push_back(0);
-        valid.push_back(0);
+        if (nullable) bytes.push_back(1);
         break;
-    case Bool: valid.push_back(0); break;
+    case Time:
+    case Tod: ints.push_back(kNoTime); break;
+    case Bool: bytes.push_back(0); break;
     case Text: codes.push_back(-1); break;
     default: reals.push_back(kNaN); break;
     }
@@ -78,14 +180,16 @@ void Column::put_int(int64_t v) {
     case Unknown: become(Int); [[fallthrough]];
     case Int:
         ints.push_back(v);
-        valid.push_back(1);
+        if (nullable) bytes.push_back(0);
         break;
     case Text: {
         char buf[32];
         put_text(int_text(v, buf));
         break;
     }
-    case Bool: valid.push_back(v != 0); break;
+    case Bool: bytes.push_back(v != 0); break;
+    case Time:
+    case Tod: put_seconds(static_cast<double>(v)); break;
     default: reals.push_back(static_cast<double>(v)); break;
     }
 }
@@ -94,6 +198,8 @@ void Column::put_real(double v) {
     switch (kind) {
     case Unknown: become(Real); break;
     case Int: become(Real); break;
+    case Time:
+    case Tod: put_seconds(v); return;
     case Text: {
         if (!std::isfinite(v)) {
             codes.push_back(-1);
@@ -108,22 +214,20 @@ void Column::put_real(double v) {
     reals.push_back(v);
 }
 
+void Column::put_seconds(double seconds) {
+    // Rounded half to even, as numpy rounds.
+    ints.push_back(std::isfinite(seconds) && std::fabs(seconds) < 9e9 ? static_cast<int64_t>(std::nearbyint(seconds * 1e9))
+                                                                     : kNoTime);
+}
+
 void Column::put_bool(bool v) {
-    if (kind == Bool) valid.push_back(v ? 1 : 0);
+    if (kind == Bool) bytes.push_back(v ? 1 : 0);
     else put_int(v ? 1 : 0);
 }
 
 void Column::put_text(std::string_view v) {
     if (kind != Text) become(Text);
-    const auto it = text_index.find(v);
-    if (it != text_index.end()) {
-        codes.push_back(it->second);
-        return;
-    }
-    const int32_t code = static_cast<int32_t>(texts.size());
-    texts.emplace_back(v);
-    text_index.emplace(std::string_view(texts.back()), code);
-    codes.push_back(code);
+    codes.push_back(texts.code(v));
 }
 
 void Column::become(Kind to) {
@@ -135,11 +239,12 @@ void Column::become(Kind to) {
         for (size_t i = 0; i < rows; ++i) put_missing();
         return;
     }
+    const auto has = [this](size_t i) { return !nullable || bytes[i] == 0; };
     if (kind == Int && to == Real) {
         reals.resize(ints.size());
-        for (size_t i = 0; i < ints.size(); ++i) reals[i] = valid[i] ? static_cast<double>(ints[i]) : kNaN;
+        for (size_t i = 0; i < ints.size(); ++i) reals[i] = has(i) ? static_cast<double>(ints[i]) : kNaN;
         ints.clear();
-        valid.clear();
+        bytes.clear();
         kind = Real;
         return;
     }
@@ -147,16 +252,18 @@ void Column::become(Kind to) {
         // Numbers met before the first text keep their CSV text.
         std::vector<int64_t> old_ints;
         std::vector<double> old_reals;
-        std::vector<uint8_t> old_valid;
+        std::vector<uint8_t> old_bytes;
         old_ints.swap(ints);
         old_reals.swap(reals);
-        old_valid.swap(valid);
+        old_bytes.swap(bytes);
         const Kind was = kind;
+        const bool had_mask = nullable;
         kind = Text;
         const size_t rows = was == Int ? old_ints.size() : old_reals.size();
+        codes.reserve(rows);
         for (size_t i = 0; i < rows; ++i) {
             if (was == Int) {
-                if (old_valid[i]) put_int(old_ints[i]);
+                if (!had_mask || old_bytes[i] == 0) put_int(old_ints[i]);
                 else codes.push_back(-1);
             } else {
                 put_real(old_reals[i]);
@@ -168,17 +275,30 @@ void Column::become(Kind to) {
 ColumnSink::ColumnSink(std::vector<CsvColumn> columns) : spec_(std::move(columns)) {
     columns_.resize(spec_.size());
     filled_.resize(spec_.size());
+    fills_.resize(spec_.size());
     for (size_t i = 0; i < spec_.size(); ++i) {
         const CsvColumn &c = spec_[i];
         Column &col = columns_[i];
+        Fill &fill = fills_[i];
         col.name = c.name;
         switch (c.kind) {
-        case CsvColumn::Record: col.become(view_kind(c.record, col.nullable)); break;
+        case CsvColumn::Record: {
+            bool nullable = true;
+            const Column::Kind kind = view_kind(c.record, nullable);
+            col.nullable = nullable;
+            col.become(kind);
+            fill.source = view_source(c.record);
+            break;
+        }
         case CsvColumn::Field:
             col.become(field_kind(c.field));
-            ask_ |= kovrel_tool::record_field_accessor(c.field);
+            fill.source = field_source(c.field);
+            fill.ask = kovrel_tool::record_field_accessor(c.field);
+            fill.real = real_member(c.field);
+            ask_ |= fill.ask;
             break;
         case CsvColumn::ItemPath: {
+            fill.source = Source::ItemPath;
             size_t g = 0;
             while (g < groups_.size() && groups_[g].item != c.item) ++g;
             if (g == groups_.size()) groups_.push_back({c.item, {}});
@@ -310,6 +430,46 @@ void ColumnSink::walk_item(const AstDataItem &item, const ItemGroup &group) {
         &item, [](void *context, const AstField *f) { return static_cast<ColumnWalk *>(context)->visit(*f); }, &walk);
 }
 
+// A record field's value. Texts are coded by their raw number; the text
+// itself is formatted once per distinct value.
+void ColumnSink::put_field(Column &col, const Fill &fill) {
+    const kovrel_tool::RecordFields &f = fields_;
+    if (!(f.answered & fill.ask)) {
+        col.put_missing();
+        return;
+    }
+    const auto text_of = [&f](RecordField field, char (&scratch)[kovrel_tool::kFieldScratch]) {
+        const kovrel_tool::FieldValue v = kovrel_tool::record_field_value(f, field, scratch);
+        if (v.kind == kovrel_tool::FieldValue::Text) return std::string_view(v.text, v.length);
+        const char *end = std::to_chars(scratch, scratch + sizeof scratch, v.u).ptr;
+        return std::string_view(scratch, static_cast<size_t>(end - scratch));
+    };
+    // Codes of the fields whose text depends on one number only.
+    const auto coded = [&](RecordField field, uint64_t key) {
+        char scratch[kovrel_tool::kFieldScratch];
+        col.put_code(col.texts.code_of(key, [&] { return text_of(field, scratch); }));
+    };
+    switch (fill.source) {
+    case Source::Sac: col.put_int(f.sac); break;
+    case Source::Sic: col.put_int(f.sic); break;
+    case Source::Track: col.put_int(f.track); break;
+    case Source::Tod: col.put_seconds(static_cast<double>(f.tod.raw) * f.tod.lsb); break;
+    case Source::MsgType: coded(RecordField::MsgType, f.msgtype); break;
+    case Source::Mode3a: coded(RecordField::Mode3a, f.mode3a); break;
+    case Source::Icao: coded(RecordField::Icao, f.icao); break;
+    case Source::Callsign: {
+        // Up to eight characters, none of them NUL: packed into eight
+        // octets (zeros after a shorter one), they tell callsigns apart.
+        uint64_t key = 0;
+        std::memcpy(&key, f.callsign, f.callsign_length < 8 ? f.callsign_length : 8);
+        col.put_code(col.texts.code_of(key, [&] { return std::string_view(f.callsign, f.callsign_length); }));
+        break;
+    }
+    case Source::RealField: col.put_real(f.*fill.real); break;
+    default: col.put_missing(); break;
+    }
+}
+
 void ColumnSink::record(const kovrel_tool::RecordView &v) {
     const AstDataRecord &r = *v.record;
     if (ask_) reader_.read(fields_, r, ask_);
@@ -320,60 +480,41 @@ void ColumnSink::record(const kovrel_tool::RecordView &v) {
             if (g >= 0) walk_item(r.items[i], groups_[static_cast<size_t>(g)]);
         }
     }
-    for (size_t i = 0; i < spec_.size(); ++i) {
-        const CsvColumn &c = spec_[i];
+    for (size_t i = 0; i < fills_.size(); ++i) {
+        const Fill &fill = fills_[i];
         Column &col = columns_[i];
-        switch (c.kind) {
-        case CsvColumn::ItemPath:
-            if (!filled_[i]) col.put_missing();
+        switch (fill.source) {
+        case Source::Input: col.put_text(v.input); break;
+        case Source::Block: col.put_int(static_cast<int64_t>(v.block)); break;
+        case Source::Offset: col.put_int(static_cast<int64_t>(v.where.offset)); break;
+        case Source::Packet:
+            if (v.where.packet) col.put_int(static_cast<int64_t>(v.where.packet));
+            else col.put_missing();
             break;
-        case CsvColumn::Field: {
-            if (!fields_.has(c.field)) {
-                col.put_missing();
-                break;
-            }
-            if (c.field == RecordField::Tod) {
-                col.put_real(static_cast<double>(fields_.tod.raw) * fields_.tod.lsb);
-                break;
-            }
-            char scratch[kovrel_tool::kFieldScratch];
-            const kovrel_tool::FieldValue value = kovrel_tool::record_field_value(fields_, c.field, scratch);
-            switch (value.kind) {
-            case kovrel_tool::FieldValue::Unsigned:
-                if (col.kind == Column::Text) {
-                    char buf[32];
-                    col.put_text(int_text(static_cast<int64_t>(value.u), buf));
-                } else {
-                    col.put_int(static_cast<int64_t>(value.u));
-                }
-                break;
-            case kovrel_tool::FieldValue::Real: col.put_real(value.real); break;
-            case kovrel_tool::FieldValue::Text: col.put_text(std::string_view(value.text, value.length)); break;
-            }
+        case Source::Time:
+            if (v.where.packet) col.put_seconds(v.time);
+            else col.put_missing();
+            break;
+        case Source::Cat: col.put_int(r.category); break;
+        case Source::Uap: {
+            // The label's address tells labels apart: they are kept texts.
+            const char *label = label_(r);
+            col.put_code(col.texts.code_of(reinterpret_cast<uintptr_t>(label),
+                                           [label] { return std::string_view(label ? label : ""); }));
             break;
         }
-        case CsvColumn::Record:
-            switch (c.record) {
-            case kInput: col.put_text(v.input); break;
-            case kBlock: col.put_int(static_cast<int64_t>(v.block)); break;
-            case kOffset: col.put_int(static_cast<int64_t>(v.where.offset)); break;
-            case kPacket:
-                if (v.where.packet) col.put_int(static_cast<int64_t>(v.where.packet));
-                else col.put_missing();
-                break;
-            case kTime: col.put_real(v.where.packet ? v.time : kNaN); break;
-            case kCat: col.put_int(r.category); break;
-            case kUap: col.put_text(label_(r)); break;
-            case kRecord: col.put_int(static_cast<int64_t>(v.number)); break;
-            case kLength:
-                if (r.valid) col.put_int(static_cast<int64_t>(r.length));
-                else col.put_missing();
-                break;
-            case kItemCount: col.put_int(static_cast<int64_t>(r.item_count)); break;
-            case kValid: col.put_bool(r.valid != 0); break;
-            case kBlockValid: col.put_bool(v.block_valid); break;
-            }
+        case Source::Record: col.put_int(static_cast<int64_t>(v.number)); break;
+        case Source::Length:
+            if (r.valid) col.put_int(static_cast<int64_t>(r.length));
+            else col.put_missing();
             break;
+        case Source::ItemCount: col.put_int(static_cast<int64_t>(r.item_count)); break;
+        case Source::Valid: col.put_bool(r.valid != 0); break;
+        case Source::BlockValid: col.put_bool(v.block_valid); break;
+        case Source::ItemPath:
+            if (!filled_[i]) col.put_missing();
+            break;
+        default: put_field(col, fill); break;
         }
     }
     ++rows_;

@@ -141,7 +141,11 @@ public:
 
     std::vector<std::string> messages() { return stream_.take_messages(); }
 
-    // Every record left, as columns: [(name, kind, array, mask-or-categories)].
+    // Every record left, as columns: [(name, kind, array, extra)]: kind
+    // "int" (int64), "int?" (int64, extra a uint8 array, 1 where missing),
+    // "real" (float64), "bool" (uint8), "text" (int32 codes, extra the
+    // texts), "time" and "tod" (int64 nanoseconds, INT64_MIN where
+    // missing), "empty" (the array is the number of rows).
     py::list columns(const std::string &wanted) {
         std::vector<kovrel_tool::CsvColumn> parsed;
         std::string error;
@@ -149,7 +153,16 @@ public:
         ColumnSink sink(std::move(parsed));
         {
             py::gil_scoped_release release;
+            // Once a few hundred kilooctets are decoded, the columns are
+            // sized for the whole input at that density (an eighth more for
+            // the way it varies): buffers that double as they fill copy every
+            // row again and touch twice the memory.
+            bool sized = stream_.octets_total() == 0;
             while (stream_.next_block(sink)) {
+                if (sized || stream_.octets_done() < (256u << 10)) continue;
+                sized = true;
+                const double per_octet = static_cast<double>(sink.rows()) / static_cast<double>(stream_.octets_done());
+                sink.reserve(static_cast<size_t>(per_octet * static_cast<double>(stream_.octets_total()) * 1.125) + 64);
             }
         }
         py::list out;
@@ -164,17 +177,17 @@ public:
             case Column::Int:
                 kind = c.nullable ? "int?" : "int";
                 values = to_array(std::move(c.ints));
-                extra = to_array(std::move(c.valid));
+                if (c.nullable) extra = to_array(std::move(c.bytes));
                 break;
             case Column::Real: kind = "real"; values = to_array(std::move(c.reals)); break;
-            case Column::Time: kind = "time"; values = to_array(std::move(c.reals)); break;
-            case Column::Tod: kind = "tod"; values = to_array(std::move(c.reals)); break;
-            case Column::Bool: kind = "bool"; values = to_array(std::move(c.valid)); break;
+            case Column::Time: kind = "time"; values = to_array(std::move(c.ints)); break;
+            case Column::Tod: kind = "tod"; values = to_array(std::move(c.ints)); break;
+            case Column::Bool: kind = "bool"; values = to_array(std::move(c.bytes)); break;
             case Column::Text: {
                 kind = "text";
                 values = to_array(std::move(c.codes));
                 py::list texts;
-                for (const std::string &t : c.texts)
+                for (const std::string &t : c.texts.texts())
                     texts.append(py::reinterpret_steal<py::object>(
                         PyUnicode_DecodeUTF8(t.data(), static_cast<py::ssize_t>(t.size()), "replace")));
                 extra = texts;

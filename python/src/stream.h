@@ -65,6 +65,10 @@ public:
     std::vector<std::string> take_messages();
 
     uint64_t blocks() const { return block_no_; }
+    // Octets of a raw or hexadecimal input, and those of them decoded so
+    // far; both 0 for captures (their payloads are not known ahead).
+    uint64_t octets_total() const { return pcap_ ? 0 : chunk_.size; }
+    uint64_t octets_done() const { return pcap_ ? 0 : (chunk_left_ ? pos_ : chunk_.size); }
 
 private:
     kovrel_tool::RecordFilter filter_;
