@@ -306,8 +306,10 @@ bool RecordStream::next_block(RecordSink &sink) {
         view.src = chunk_.src;
         view.dst = chunk_.dst;
         view.block_valid = outcome.valid;
+        kovrel_tool::BlockKeys keys;
+        if (!filter_.empty()) keys.start(b);
         for (uint64_t i = 0; i < b.record_count && i < AST_DATABLOCK_MAX_RECORDS; ++i) {
-            if (!filter_.empty() && !filter_.matches(b.records[i])) continue;
+            if (!filter_.empty() && !filter_.matches(b.records[i], keys.records[i])) continue;
             view.record = &b.records[i];
             view.number = static_cast<size_t>(i) + 1;
             sink.record(view);

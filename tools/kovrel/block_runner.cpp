@@ -74,8 +74,10 @@ void BlockRunner::run(std::string_view name, const BlockTask &task, Stats &stats
     case SliceProblem::None:
     case SliceProblem::LengthTooLarge: {
         const BlockOutcome outcome = decoder_.decode(slice.data, slice.size);
-        const uint64_t kept = kept_records ? kept_records(*outcome.block) : ~uint64_t{0};
-        stats.count_block(*outcome.block, slice.data[0], slice.size, outcome.valid, kept);
+        // What the filter reads of each record, the counts use again.
+        keys_.start(*outcome.block);
+        const uint64_t kept = kept_records ? kept_records(*outcome.block, keys_) : ~uint64_t{0};
+        stats.count_block(*outcome.block, slice.data[0], slice.size, outcome.valid, kept, &keys_);
         if (!outcome.valid) {
             tell(at + " (" + cat_text(slice.data, slice.size) + ", LEN " + std::to_string(slice.len) +
                  "): " + outcome.reason);

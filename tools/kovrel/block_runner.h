@@ -17,6 +17,7 @@
 #include "out_buffer.h"
 #include "output.h"
 #include "output_csv.h"
+#include "record_keys.h"
 #include "stats.h"
 #include "video_memory.h"
 
@@ -54,7 +55,7 @@ public:
     VideoMemory video;
 
     // Bit i set when record i of the block passes the filter.
-    std::function<uint64_t(const AstDataBlock &)> kept_records;
+    std::function<uint64_t(const AstDataBlock &, BlockKeys &)> kept_records;
     // A problem with a block ("block 3 at @120 (CAT048, LEN 30): ...").
     std::function<void(const std::string &text)> on_message;
     // Set: records go here instead of being formatted; returns false once
@@ -73,6 +74,7 @@ private:
     std::unique_ptr<CsvWriter> csv_;
     BlockDecoder decoder_;
     unsigned video_items_;
+    BlockKeys keys_;  // of the block being run (kept here: 64 records' worth)
 };
 
 }  // namespace kovrel_tool

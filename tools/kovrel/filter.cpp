@@ -210,7 +210,38 @@ bool RecordFilter::add_condition(const std::string &text, std::string &error) {
                 filter_keyword_list();
         return false;
     }
-    conditions_.push_back({keyword, value});
+    Condition c;
+    c.keyword = keyword;
+    c.value = value;
+    switch (keyword) {
+    case AST_KEYWORD_SACSIC: {
+        int sac = 0, sic = 0;
+        c.sac_only = std::sscanf(value.c_str(), "%d/%d", &sac, &sic) != 2;
+        if (c.sac_only) sac = std::atoi(value.c_str());
+        c.sac = static_cast<uint32_t>(sac);
+        c.sic = static_cast<uint32_t>(sic);
+        break;
+    }
+    case AST_KEYWORD_TIMESTAMP: {
+        int h = 0, m = 0, sec = 0, ms = 0;
+        std::sscanf(value.c_str(), "%d:%d:%d.%d", &h, &m, &sec, &ms);
+        c.h = static_cast<uint32_t>(h);
+        c.m = static_cast<uint32_t>(m);
+        c.s = static_cast<uint32_t>(sec);
+        c.ms = static_cast<uint32_t>(ms);
+        break;
+    }
+    case AST_KEYWORD_TYPE:
+        // Names are the library's, matched as ast_datarecord_match_keyword
+        // matches them; numbers past 255 have none.
+        for (uint32_t t = 0; t < c.types.size(); ++t) {
+            const char *name = ast_msgtype_to_str(t);
+            if (name && name[0] != '\0' && ast_keyword_match(name, value.c_str(), 0)) c.types.set(t);
+        }
+        break;
+    default: break;
+    }
+    conditions_.push_back(std::move(c));
     return true;
 }
 
@@ -254,18 +285,43 @@ bool RecordFilter::set_time_window(const std::string &text, std::string &error) 
 }
 
 bool RecordFilter::matches(const AstDataRecord &record) const {
+    RecordFieldReader reader;
+    RecordKeys keys;
+    keys.start(record, reader);
+    return matches(record, keys);
+}
+
+bool RecordFilter::matches(const AstDataRecord &record, RecordKeys &keys) const {
     if (by_category_ && (record.category > 255 || !categories_.test(record.category))) return false;
     if (by_time_) {
-        AstTimeOfDay t;
-        ast_datarecord_get_timeofday(&t, &record);
+        const AstTimeOfDay &t = keys.time();
         if (t.valid != 1) return false;
         const uint64_t ms = ((uint64_t{t.hour} * 60 + t.minute) * 60 + t.second) * 1000 + t.millisecond;
         const bool inside = from_ms_ <= to_ms_ ? (ms >= from_ms_ && ms <= to_ms_) : (ms >= from_ms_ || ms <= to_ms_);
         if (!inside) return false;
     }
     for (const Condition &c : conditions_)
-        if (!ast_datarecord_match_keyword(&record, c.keyword, c.value.c_str(), 0)) return false;
+        if (!meets(c, record, keys)) return false;
     return true;
+}
+
+bool RecordFilter::meets(const Condition &c, const AstDataRecord &record, RecordKeys &keys) const {
+    if (record.valid != 1) return false;
+    switch (c.keyword) {
+    case AST_KEYWORD_SACSIC: {
+        const AstDataSourceIdentifier &v = keys.source();
+        return v.valid == 1 && v.sac == c.sac && (c.sac_only || v.sic == c.sic);
+    }
+    case AST_KEYWORD_TIMESTAMP: {
+        const AstTimeOfDay &v = keys.time();
+        return v.valid == 1 && v.hour == c.h && v.minute == c.m && v.second == c.s && v.millisecond == c.ms;
+    }
+    case AST_KEYWORD_TYPE: {
+        const AstRecordMsgType &v = keys.type();
+        return v.valid == 1 && v.value < c.types.size() && c.types.test(v.value);
+    }
+    default: return ast_datarecord_match_keyword(&record, c.keyword, c.value.c_str(), 0);
+    }
 }
 
 }  // namespace kovrel_tool

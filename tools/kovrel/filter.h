@@ -33,6 +33,8 @@
 
 #include <kovrel/kovrel.h>
 
+#include "record_keys.h"
+
 namespace kovrel_tool {
 
 class RecordFilter {
@@ -48,12 +50,24 @@ public:
     // True when no condition is set (every record is kept).
     bool empty() const { return conditions_.empty() && !by_category_ && !by_time_; }
     bool matches(const AstDataRecord &record) const;
+    // The same, reading the data source, time of day and message type
+    // through `keys` (started on the record), which keeps them for the
+    // counts that follow.
+    bool matches(const AstDataRecord &record, RecordKeys &keys) const;
 
 private:
+    // A condition on SAC/SIC, time of day or message type is read once,
+    // when it is added, and compared with the accessors' numbers; the
+    // others go to ast_datarecord_match_keyword with their text.
     struct Condition {
         uint32_t keyword;
         std::string value;
+        uint32_t sac = 0, sic = 0;   // SAC/SIC
+        bool sac_only = false;
+        uint32_t h = 0, m = 0, s = 0, ms = 0;  // time of day
+        std::bitset<256> types;      // message types whose name matches
     };
+    bool meets(const Condition &c, const AstDataRecord &record, RecordKeys &keys) const;
     std::vector<Condition> conditions_;
     bool by_category_ = false;
     std::bitset<256> categories_;

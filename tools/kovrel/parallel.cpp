@@ -7,7 +7,7 @@
 namespace kovrel_tool {
 
 struct ParallelDecoder::Worker {
-    Worker(const SessionSettings &settings, const std::function<uint64_t(const AstDataBlock &)> &kept)
+    Worker(const SessionSettings &settings, const std::function<uint64_t(const AstDataBlock &, BlockKeys &)> &kept)
         : out(nullptr), runner(settings, out) {
         runner.kept_records = kept;
     }
@@ -17,7 +17,7 @@ struct ParallelDecoder::Worker {
 };
 
 ParallelDecoder::ParallelDecoder(const SessionSettings &settings, unsigned threads, BatchWriter writer,
-                                 std::function<uint64_t(const AstDataBlock &)> kept_records)
+                                 std::function<uint64_t(const AstDataBlock &, BlockKeys &)> kept_records)
     : settings_(settings), writer_(std::move(writer)), kept_records_(std::move(kept_records)),
       limit_(2 * static_cast<size_t>(threads ? threads : 1) + 2) {
     for (unsigned i = 0; i < (threads ? threads : 1); ++i) {

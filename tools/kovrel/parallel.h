@@ -47,7 +47,7 @@ class ParallelDecoder {
 public:
     // `threads` decoding threads (at least 1) start at once.
     ParallelDecoder(const SessionSettings &settings, unsigned threads, BatchWriter writer,
-                    std::function<uint64_t(const AstDataBlock &)> kept_records);
+                    std::function<uint64_t(const AstDataBlock &, BlockKeys &)> kept_records);
     ~ParallelDecoder();
     ParallelDecoder(const ParallelDecoder &) = delete;
     ParallelDecoder &operator=(const ParallelDecoder &) = delete;
@@ -89,7 +89,7 @@ private:
 
     const SessionSettings &settings_;
     BatchWriter writer_;
-    std::function<uint64_t(const AstDataBlock &)> kept_records_;
+    std::function<uint64_t(const AstDataBlock &, BlockKeys &)> kept_records_;
     std::unique_ptr<Batch> filling_;
     size_t limit_;
     std::mutex mutex_;

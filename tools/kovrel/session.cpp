@@ -31,7 +31,7 @@ DecodeSession::DecodeSession(const SessionSettings &settings, std::FILE *out, st
     : settings_(settings), out_(out), messages_(messages), buffer_(out), terminal_(is_terminal(out)) {
     if (settings_.filter && settings_.filter->empty()) settings_.filter = nullptr;
     stats_.filtered = settings_.filter != nullptr;
-    auto kept = [this](const AstDataBlock &block) { return kept_records(block); };
+    auto kept = [this](const AstDataBlock &block, BlockKeys &keys) { return kept_records(block, keys); };
     runner_ = std::make_unique<BlockRunner>(settings_, buffer_);
     runner_->kept_records = kept;
     runner_->after_record = [this] {
@@ -341,10 +341,16 @@ bool DecodeSession::decode_chunk(const std::string &name, const Chunk &chunk, bo
 }
 
 uint64_t DecodeSession::kept_records(const AstDataBlock &block) const {
+    BlockKeys keys;
+    keys.start(block);
+    return kept_records(block, keys);
+}
+
+uint64_t DecodeSession::kept_records(const AstDataBlock &block, BlockKeys &keys) const {
     if (!settings_.filter) return ~uint64_t{0};
     uint64_t kept = 0;
     for (uint64_t i = 0; i < block.record_count && i < 64; ++i)
-        if (settings_.filter->matches(block.records[i])) kept |= uint64_t{1} << i;
+        if (settings_.filter->matches(block.records[i], keys.records[i])) kept |= uint64_t{1} << i;
     return kept;
 }
 

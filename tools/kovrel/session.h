@@ -139,6 +139,9 @@ private:
     void flush_buffer();
     // Prints a message (message() first writes every block handed over).
     void print_message(const std::string &name, const std::string &text);
+    // The same, reading the records through `keys` (started on the block)
+    // for the counts to use again.
+    uint64_t kept_records(const AstDataBlock &block, BlockKeys &keys) const;
     void record_written();
     void check_output();
     void message(const std::string &name, const std::string &text);

@@ -54,7 +54,8 @@ std::string reason_kind(const std::string &reason) {
 
 void Stats::count_reason(const std::string &reason) { ++invalid_reasons[reason_kind(reason)]; }
 
-void Stats::count_block(const AstDataBlock &block, uint32_t category, size_t size, bool valid, uint64_t kept) {
+void Stats::count_block(const AstDataBlock &block, uint32_t category, size_t size, bool valid, uint64_t kept,
+                        BlockKeys *keys) {
     CategoryCounts &c = categories[category];
     c.octets += size;
     octets += size;
@@ -65,6 +66,7 @@ void Stats::count_block(const AstDataBlock &block, uint32_t category, size_t siz
     }
     ++c.blocks;
     ++blocks;
+    RecordKeys own;
     for (uint64_t i = 0; i < block.record_count; ++i) {
         const AstDataRecord &r = block.records[i];
         ++c.records;
@@ -78,16 +80,17 @@ void Stats::count_block(const AstDataBlock &block, uint32_t category, size_t siz
         while (l < labels_.size() && labels_[l] != label) ++l;
         if (l == labels_.size()) labels_.push_back(label);
         label_counts_.add({static_cast<uint32_t>(l), 0, 0});
-        RecordFields &f = fields_;
-        reader_.read(f, r, kAskSource | kAskType | kAskTime);
-        if (f.answered & kAskSource) {
-            const bool has_time = (f.answered & kAskTime) != 0;
-            const uint32_t ms = has_time ? ((f.tod.hour * 60 + f.tod.minute) * 60 + f.tod.second) * 1000 +
-                                               f.tod.millisecond
-                                         : 0;
-            source_counts_.add({category, f.sac, f.sic}, has_time, ms);
+        RecordKeys *k = keys && i < AST_DATABLOCK_MAX_RECORDS ? &keys->records[i] : &own;
+        if (k == &own) own.start(r, reader_);
+        const AstDataSourceIdentifier &source = k->source();
+        if (source.valid == 1) {
+            const AstTimeOfDay &t = k->time();
+            const bool has_time = t.valid != 0;
+            const uint32_t ms = has_time ? ((t.hour * 60 + t.minute) * 60 + t.second) * 1000 + t.millisecond : 0;
+            source_counts_.add({category, source.sac, source.sic}, has_time, ms);
         }
-        if (f.answered & kAskType) type_counts_.add({category, f.msgtype, 0});
+        const AstRecordMsgType &type = k->type();
+        if (type.valid != 0) type_counts_.add({category, type.value, 0});
     }
 }
 

@@ -14,6 +14,7 @@
 #include "fields.h"
 #include "input.h"
 #include "output.h"
+#include "record_keys.h"
 
 namespace kovrel_tool {
 
@@ -53,9 +54,11 @@ struct Stats {
 
     // A decoded block; its records are counted when it is valid. Bit i of
     // `kept` tells whether record i passed the filter (records 64 and on are
-    // never filtered out).
+    // never filtered out). `keys`, when given, holds what the filter read
+    // of the block's records (started on the block), and the counts read
+    // the rest through it.
     void count_block(const AstDataBlock &block, uint32_t category, size_t octets, bool valid,
-                     uint64_t kept = ~uint64_t{0});
+                     uint64_t kept = ~uint64_t{0}, BlockKeys *keys = nullptr);
     // A run of octets in which no block could be found.
     void count_unusable(int category, size_t octets);
     // Why a block was bad (counted in invalid_reasons).
@@ -152,8 +155,7 @@ private:
     Tally label_counts_, type_counts_;
     SourceTally source_counts_;
     ProfileLabels label_;
-    RecordFieldReader reader_;
-    RecordFields fields_;  // of the record being counted
+    RecordFieldReader reader_;  // for records counted without keys
 };
 
 }  // namespace kovrel_tool
