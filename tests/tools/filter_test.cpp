@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstring>
 #include <functional>
 #include <nlohmann/json.hpp>
 #include <set>
@@ -316,6 +317,54 @@ TEST(ToolFilter, TimeWindows) {
         ASSERT_EQ(r.valid, 1);
         EXPECT_EQ(f.matches(r), c.keeps) << c.window << " at " << c.tod;
     }
+}
+
+TEST(ToolFilter, SourceTimeAndTypeAreComparedAsTheLibraryDoes) {
+    // CAT048 records: I048/010 SAC/SIC, I048/140 time of day, I048/020 (a
+    // plot from a primary radar, 0x20; a Mode S roll-call plot, 0xA0). A
+    // CAT048 record is a plot with or without I048/020.
+    const Octets plot = {0xE0, 25, 1, 0x46, 0x59, 0x1C, 0xA0};  // 10:00:18.218
+    const Octets other = {0xC0, 25, 2, 0x46, 0x5A, 0x00};       // 10:00:20.000, no type
+    const Octets far = {0xE0, 26, 1, 0x00, 0x00, 0x80, 0x20};   // 00:00:01.000
+    const Octets none = {0x40, 0x46, 0x5A, 0x00};               // no source
+    struct Case {
+        const char *filter;
+        bool plot, other, far, none;
+    } cases[] = {
+        {"sacsic=025/001", true, false, false, false}, {"sacsic=25", true, true, false, false},
+        {"sacsic=26/1", false, false, true, false},    {"sacsic=1/25", false, false, false, false},
+        {"sacsic=0", false, false, false, false},      {"time=10:00:18.218", true, false, false, false},
+        {"time=10:00:20.0", false, true, false, true}, {"time=0:0:1.000", false, false, true, false},
+        {"time=10:00:18.219", false, false, false, false}, {"type=plot", true, true, true, true},
+        {"type=TRACK", false, false, false, false},
+    };
+    AstDataRecord records[4]{};
+    const Octets *octets[] = {&plot, &other, &far, &none};
+    for (size_t i = 0; i < 4; ++i) {
+        ast_datarecord_decode(&records[i], octets[i]->data(), octets[i]->size(), 48, &AST_UAP_STANDARD);
+        ASSERT_EQ(records[i].valid, 1) << i;
+    }
+    for (const Case &c : cases) {
+        const RecordFilter f = filter_of({c.filter});
+        const bool want[] = {c.plot, c.other, c.far, c.none};
+        const std::string value = std::strchr(c.filter, '=') + 1;
+        uint32_t keyword = 0;
+        ASSERT_TRUE(find_filter_keyword(std::string(c.filter, std::strchr(c.filter, '=')), keyword));
+        for (size_t i = 0; i < 4; ++i) {
+            SCOPED_TRACE(std::string(c.filter) + " on record " + std::to_string(i));
+            RecordFieldReader reader;
+            RecordKeys keys;
+            keys.start(records[i], reader);
+            EXPECT_EQ(f.matches(records[i], keys), want[i]);
+            EXPECT_EQ(f.matches(records[i]), want[i]);
+            EXPECT_EQ(ast_datarecord_match_keyword(&records[i], keyword, value.c_str(), 0), want[i]);
+        }
+    }
+    // A record that was not read whole matches nothing.
+    AstDataRecord cut{};
+    ast_datarecord_decode(&cut, plot.data(), 4, 48, &AST_UAP_STANDARD);
+    ASSERT_NE(cut.valid, 1);
+    EXPECT_FALSE(filter_of({"sacsic=25"}).matches(cut));
 }
 
 #endif  // KOVREL_HAVE_TOOL_CORE
