@@ -132,6 +132,7 @@ bool RecordStream::open_file(const std::string &name, std::FILE *file, uint64_t 
             madvise(map, size, MADV_SEQUENTIAL);
             map_ = map;
             map_size_ = size;
+            released_ = 0;
             start_octets(kind, static_cast<const uint8_t *>(map) + start, size - static_cast<size_t>(start));
             return true;
         }
@@ -254,6 +255,20 @@ bool RecordStream::next_chunk() {
     return false;
 }
 
+// A mapped file's pages stay resident once read, and a long recording would
+// end up whole in memory: the pages behind the block being decoded are
+// given back every few megaoctets (no record points into them any more).
+void RecordStream::release_behind() {
+    if (!map_) return;
+    constexpr size_t kStep = 8u << 20;
+    const size_t done = static_cast<size_t>(chunk_.data - static_cast<const uint8_t *>(map_)) + pos_;
+    if (done < released_ + kStep) return;
+    const size_t page = static_cast<size_t>(sysconf(_SC_PAGESIZE));
+    const size_t upto = done / page * page;
+    madvise(static_cast<uint8_t *>(map_) + released_, upto - released_, MADV_DONTNEED);
+    released_ = upto;
+}
+
 bool RecordStream::next_block(RecordSink &sink) {
     if (!chunk_left_ && !next_chunk()) return false;
     using kovrel_tool::SliceProblem;
@@ -282,6 +297,7 @@ bool RecordStream::next_block(RecordSink &sink) {
     } else {
         chunk_left_ = false;
     }
+    release_behind();
 
     const uint64_t number = ++block_no_;
     const std::string at = "block " + std::to_string(number) + " at " + kovrel_tool::format_location(s.where);

@@ -79,6 +79,7 @@ private:
     void finish_capture();
     void message(const std::string &text);
     void close();
+    void release_behind();
 
     kovrel_tool::BlockDecoder decoder_;
     std::string name_;
@@ -87,6 +88,7 @@ private:
     // The input's octets (raw and hex inputs): mapped, owned or borrowed.
     void *map_ = nullptr;
     size_t map_size_ = 0;
+    size_t released_ = 0;  // octets from the start of the map given back
     std::vector<uint8_t> owned_;
 
     // Captures.

@@ -100,3 +100,43 @@ def test_empty_input_gives_an_empty_frame():
     with pytest.warns(kovrel.DecodeWarning, match="empty input"):
         frame = kovrel.to_dataframe(b"", columns="cat,sac,I048/040.rho")
     assert len(frame) == 0 and list(frame.columns) == ["cat", "sac", "I048/040.rho"]
+
+
+def test_text_columns_tell_every_value_apart():
+    # Callsigns that are prefixes of each other, codes and addresses met
+    # again after others: each distinct value is one category, in the order
+    # first met, and every row points at its own.
+    rows = [("ABCDEFGH", "7700", "ABCDEF"), ("ABCDEFG", "0007", "000001"), ("A", "7700", "ABCDEF"),
+            ("ABCDEFG", "0000", "000001"), ("ABCDEFGH", "7777", "FFFFFF")]
+    octets = kovrel.encode([{"cat": 48, "fields": {"sac": 25, "sic": 1, "callsign": c, "mode3a": m, "icao": i}}
+                            for c, m, i in rows])
+    frame = kovrel.to_dataframe(octets, columns="callsign,mode3a,icao,uap,msgtype")
+    for n, name in enumerate(("callsign", "mode3a", "icao")):
+        assert list(frame[name]) == [r[n] for r in rows], name
+    assert list(frame["callsign"].cat.categories) == ["ABCDEFGH", "ABCDEFG", "A"]
+    assert list(frame["mode3a"].cat.categories) == ["7700", "0007", "0000", "7777"]
+    assert list(frame["uap"].cat.categories) == ["standard"]
+    assert list(frame["msgtype"]) == ["Plot"] * len(rows)
+
+
+@pytest.mark.parametrize("dense_first", [True, False])
+def test_long_raw_inputs_keep_every_row(tmp_path, dense_first):
+    # The columns are sized from the first part of a raw input; a part that
+    # holds many more (or fewer) records per octet than the rest must not
+    # lose or add a row.
+    dense = block(48, *["d0 1902 465a00 0a800100"] * 60)  # 60 records in 603 octets
+    sparse = kovrel.encode([{"cat": 48, "fields": {"sac": 25, "sic": 3},
+                             "items": [{"id": "I048/SPF", "hex": "ff" + "ab" * 254}]}] * 8)
+    parts = [dense * 600, sparse * 200]  # about 360 KB and 420 KB
+    if not dense_first:
+        parts.reverse()
+    path = tmp_path / "long.ast"
+    path.write_bytes(b"".join(parts))
+    frame = kovrel.to_dataframe(str(path), columns="block,record,sic,tod,rho")
+    records = list(kovrel.decode(str(path)))
+    assert len(frame) == len(records) == 600 * 60 + 200 * 8
+    assert list(frame["block"]) == [r["block"] for r in records]
+    assert list(frame["record"]) == [r["record"] for r in records]
+    assert list(frame["sic"]) == [r["fields"]["sic"] for r in records]
+    assert frame["rho"].isna().sum() == 200 * 8
+    assert frame["tod"].isna().sum() == 200 * 8

@@ -146,3 +146,35 @@ def test_file_objects_are_read_from_their_position(tmp_path):
         f.seek(14)
         (record,) = kovrel.decode(f)
     assert record["fields"]["sic"] == 2 and record["offset"] == 0
+
+
+def _resident_kb():
+    with open("/proc/self/status") as status:
+        return next(int(line.split()[1]) for line in status if line.startswith("VmRSS:"))
+
+
+@pytest.mark.skipif(not os.path.exists("/proc/self/status"), reason="needs /proc")
+def test_decode_streams_a_long_file(tmp_path):
+    # 64 MB of records from 025/001 between a first and a last record from
+    # 007/007 and 007/008. Read one record at a time and filtered, the
+    # records from 007 come out of a decoder that has been through the file:
+    # the memory held by then is a small part of the file, at the first
+    # record and at the last one.
+    filler = kovrel.encode([{"cat": 48, "fields": {"sac": 25, "sic": 1},
+                             "items": [{"id": "I048/SPF", "hex": "ff" + "ab" * 254}]}] * 30)
+    path = tmp_path / "long.ast"
+    with open(path, "wb") as out:
+        out.write(block(48, "80 0707"))
+        for _ in range((64 << 20) // len(filler)):
+            out.write(filler)
+        out.write(block(48, "80 0708"))
+    size_kb = path.stat().st_size // 1024
+    before = _resident_kb()
+    records = kovrel.decode(str(path), filter="sacsic=7", batch=1)
+    first = next(records)
+    assert first["fields"]["sic"] == 7 and first["offset"] == 0
+    assert _resident_kb() - before < size_kb // 8
+    last = next(records)
+    assert last["fields"]["sic"] == 8 and last["offset"] == path.stat().st_size - 6
+    assert _resident_kb() - before < size_kb // 4
+    assert next(records, None) is None
