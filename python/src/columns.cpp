@@ -103,24 +103,12 @@ std::string_view int_text(int64_t v, char (&buf)[32]) {
 
 }  // namespace
 
-int32_t &KeyCodes::at(uint64_t key) {
-    if (2 * (used_ + 1) > slots_.size()) {
-        std::vector<Slot> old(slots_.size() * 2);
-        old.swap(slots_);
-        used_ = 0;
-        for (const Slot &s : old)
-            if (s.used) at(s.key) = s.code;
-    }
-    const size_t mask = slots_.size() - 1;
-    for (size_t i = static_cast<size_t>((key * 0x9E3779B97F4A7C15ull) >> 32) & mask;; i = (i + 1) & mask) {
-        Slot &s = slots_[i];
-        if (s.used && s.key == key) return s.code;
-        if (!s.used) {
-            s = Slot{key, -1, true};
-            ++used_;
-            return s.code;
-        }
-    }
+void KeyCodes::grow() {
+    std::vector<Slot> old(slots_.size() * 2);
+    old.swap(slots_);
+    used_ = 0;
+    for (const Slot &s : old)
+        if (s.used) at(s.key) = s.code;
 }
 
 int32_t TextTable::code(std::string_view text) {
@@ -175,7 +163,7 @@ void Column::put_missing() {
     }
 }
 
-void Column::put_int(int64_t v) {
+void Column::put_int_other(int64_t v) {
     switch (kind) {
     case Unknown: become(Int); [[fallthrough]];
     case Int:
@@ -194,7 +182,7 @@ void Column::put_int(int64_t v) {
     }
 }
 
-void Column::put_real(double v) {
+void Column::put_real_other(double v) {
     switch (kind) {
     case Unknown: become(Real); break;
     case Int: become(Real); break;

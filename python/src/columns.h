@@ -52,9 +52,22 @@ struct TextHash {
 class KeyCodes {
 public:
     // The code of `key`: -1 in a new slot that the caller sets.
-    int32_t &at(uint64_t key);
+    int32_t &at(uint64_t key) {
+        if (2 * (used_ + 1) > slots_.size()) grow();
+        const size_t mask = slots_.size() - 1;
+        for (size_t i = static_cast<size_t>((key * 0x9E3779B97F4A7C15ull) >> 32) & mask;; i = (i + 1) & mask) {
+            Slot &s = slots_[i];
+            if (s.used && s.key == key) return s.code;
+            if (!s.used) {
+                s = Slot{key, -1, true};
+                ++used_;
+                return s.code;
+            }
+        }
+    }
 
 private:
+    void grow();
     struct Slot {
         uint64_t key;
         int32_t code;
@@ -106,8 +119,15 @@ struct Column {
 
     size_t size() const;
     void put_missing();
-    void put_int(int64_t v);
-    void put_real(double v);
+    void put_int(int64_t v) {
+        if (kind != Int) return put_int_other(v);
+        ints.push_back(v);
+        if (nullable) bytes.push_back(0);
+    }
+    void put_real(double v) {
+        if (kind != Real) return put_real_other(v);
+        reals.push_back(v);
+    }
     void put_bool(bool v);
     void put_text(std::string_view v);
     void put_code(int32_t code) { codes.push_back(code); }  // Text only
@@ -115,6 +135,9 @@ struct Column {
     void put_seconds(double seconds);
     // Room for `rows` rows in all, so that filling does not copy.
     void reserve(size_t rows);
+    // put_int and put_real into a column of another kind.
+    void put_int_other(int64_t v);
+    void put_real_other(double v);
     // Turns the column into `kind`: an Unknown one with its rows missing,
     // or a number column widened (integers to reals, numbers to texts).
     void become(Kind kind);
