@@ -478,6 +478,8 @@ KOVREL_API void ast_datarecord_001_get_squawk(AstMode3aCode *out, const AstDataR
 KOVREL_API void ast_datarecord_001_get_flightlevel(AstRecordValue *out, const AstDataRecord *record);
 /** RHO (NM) and THETA (degrees) from I001/040. */
 KOVREL_API void ast_datarecord_001_get_polarcoord(AstRecordPolar *out, const AstDataRecord *record);
+/** Metres from I001/042 (1/64 NM, x 1852); not a slot of AstDataRecordFuncs (see ast_datarecord_get_cartesiancoord). */
+KOVREL_API void ast_datarecord_001_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record);
 
 KOVREL_END_DECLS
 

@@ -605,6 +605,14 @@ KOVREL_API void ast_datarecord_010_get_heading(AstRecordValue *out, const AstDat
 KOVREL_API void ast_datarecord_010_get_speed(AstRecordValue *out, const AstDataRecord *record);
 /** I010/202 as decoded (LSB 1/16 m/s). */
 KOVREL_API void ast_datarecord_010_get_cartesianvel(AstVelocityCartesian *out, const AstDataRecord *record);
+/**
+ * ft/min: the barometric altitude rate of the first BDS 6,0 of I010/250 that
+ * gives one, else its inertial vertical velocity (LSB 32 ft/min); the
+ * category has no vertical rate item of its own.
+ */
+KOVREL_API void ast_datarecord_010_get_vrate(AstVerticalRate *out, const AstDataRecord *record);
+/** Metres from I010/042 (1 m); not a slot of AstDataRecordFuncs (see ast_datarecord_get_cartesiancoord). */
+KOVREL_API void ast_datarecord_010_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record);
 
 KOVREL_END_DECLS
 

@@ -643,6 +643,8 @@ KOVREL_API void ast_datarecord_048_get_selaltitude(AstRecordValue *out, const As
 KOVREL_API void ast_datarecord_048_get_heading(AstRecordValue *out, const AstDataRecord *record);
 /** RHO (NM) and THETA (degrees) from I048/040. */
 KOVREL_API void ast_datarecord_048_get_polarcoord(AstRecordPolar *out, const AstDataRecord *record);
+/** Metres from I048/042 (1/128 NM, x 1852); not a slot of AstDataRecordFuncs (see ast_datarecord_get_cartesiancoord). */
+KOVREL_API void ast_datarecord_048_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record);
 
 KOVREL_END_DECLS
 

@@ -815,6 +815,8 @@ KOVREL_API void ast_datarecord_062_get_cartesianvel(AstVelocityCartesian *out, c
  * (subfield 13), else the geometric (subfield 14) vertical rate of I062/380.
  */
 KOVREL_API void ast_datarecord_062_get_vrate(AstVerticalRate *out, const AstDataRecord *record);
+/** Metres from I062/100 (0.5 m); not a slot of AstDataRecordFuncs (see ast_datarecord_get_cartesiancoord). */
+KOVREL_API void ast_datarecord_062_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record);
 
 KOVREL_END_DECLS
 

@@ -79,6 +79,14 @@ typedef struct AstRecordPolar {
     double theta;
 } AstRecordPolar;
 
+/** Cartesian position of the target relative to the sensor or the system
+ * reference point, in metres (x east, y north). */
+typedef struct AstRecordCartesian {
+    uint32_t valid;
+    double x;
+    double y;
+} AstRecordCartesian;
+
 /** The per-category accessors; empty slots are NULL. */
 typedef struct AstDataRecordFuncs {
     void (*get_sacsic)(AstDataSourceIdentifier *out, const AstDataRecord *record);
@@ -150,6 +158,18 @@ KOVREL_API void ast_datarecord_get_speed(AstRecordValue *out, const AstDataRecor
 KOVREL_API void ast_datarecord_get_heading(AstRecordValue *out, const AstDataRecord *record);
 KOVREL_API void ast_datarecord_get_cartesianvel(AstVelocityCartesian *out, const AstDataRecord *record);
 KOVREL_API void ast_datarecord_get_vrate(AstVerticalRate *out, const AstDataRecord *record);
+
+/**
+ * Cartesian position in metres, read by the category's own accessor (it has
+ * no slot in AstDataRecordFuncs, whose layout is fixed):
+ *   CAT001 I001/042 (1/64 NM), CAT010 I010/042 (1 m), CAT020 I020/042
+ *   (0.5 m), CAT048 I048/042 (1/128 NM), CAT062 I062/100 (0.5 m);
+ * NM are converted at 1852 m. All zeros for a record that is invalid, lacks
+ * the item, or belongs to a category without a Cartesian position (the
+ * others carry WGS-84 or polar positions, or positions of something other
+ * than a target, such as CAT008 weather vectors).
+ */
+KOVREL_API void ast_datarecord_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record);
 
 KOVREL_END_DECLS
 

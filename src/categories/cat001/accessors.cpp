@@ -5,6 +5,7 @@
 #include "kovrel/cat001.h"
 #include "kovrel/datarecord.h"
 #include "record/record_access.h"
+#include "record/record_facts.h"
 #include "record/record_funcs.h"
 
 using kovrel::access::decode_first;
@@ -54,6 +55,14 @@ KOVREL_API void ast_datarecord_001_get_polarcoord(AstRecordPolar *out, const Ast
     out->valid = 1;
     out->rho = position.rho.value;
     out->theta = position.theta.value;
+}
+
+KOVREL_API void ast_datarecord_001_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    AstItem001_042 position;
+    if (decode_first(&position, record, 1042, ast_dataitem_001_042_decode))
+        kovrel::access::set_cartesian(out, position.x.value * 1852.0, position.y.value * 1852.0);
 }
 
 }  // extern "C"

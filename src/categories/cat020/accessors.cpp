@@ -6,10 +6,10 @@
 #include <cstring>
 
 #include "categories/cat010/surface_support.h"
-#include "kovrel/bds.h"
 #include "kovrel/cat020.h"
 #include "kovrel/datarecord.h"
 #include "record/record_access.h"
+#include "record/record_facts.h"
 #include "record/record_funcs.h"
 
 namespace {
@@ -19,22 +19,12 @@ namespace surface = kovrel::surface;
 
 constexpr uint32_t kMsgMlat = 6;
 
-void set_value(AstRecordValue *out, bool ok, double value) {
-    clear(out);
-    if (!ok) return;
-    out->valid = 1;
-    out->value = value;
-}
-
 }  // namespace
 
 extern "C" {
 
 KOVREL_API void ast_datarecord_020_get_sacsic(AstDataSourceIdentifier *out, const AstDataRecord *record) {
-    if (!out) return;
-    if (decode_first(out, record, 20010, ast_dataitem_data_source_identifier_decode)) return;
-    out->sac = 0xFFFFFFFFu;
-    out->sic = 0xFFFFFFFFu;
+    if (out) sacsic_of(out, record, 20010);
 }
 
 KOVREL_API void ast_datarecord_020_get_timeofday(AstTimeOfDay *out, const AstDataRecord *record) {
@@ -57,12 +47,7 @@ KOVREL_API void ast_datarecord_020_get_squawk(AstMode3aCode *out, const AstDataR
 }
 
 KOVREL_API void ast_datarecord_020_get_callsign(AstRecordCallsign *out, const AstDataRecord *record) {
-    if (!out) return;
-    clear(out);
-    AstTargetId id;
-    if (!decode_first(&id, record, 20245, ast_dataitem_target_id_decode)) return;
-    out->valid = 1;
-    std::memcpy(out->callsign, id.chars, sizeof out->callsign - 1);
+    if (out) callsign_of_target_id(out, record, 20245);
 }
 
 KOVREL_API void ast_datarecord_020_get_icaoaddr(AstTargetAddress *out, const AstDataRecord *record) {
@@ -70,36 +55,18 @@ KOVREL_API void ast_datarecord_020_get_icaoaddr(AstTargetAddress *out, const Ast
 }
 
 KOVREL_API void ast_datarecord_020_get_coordinate(AstRecordWgs84 *out, const AstDataRecord *record) {
-    if (!out) return;
-    clear(out);
-    AstPositionWgs84 pos;
-    if (!decode_first(&pos, record, 20041, ast_dataitem_position_wgs84_decode)) return;
-    out->valid = 1;
-    out->latitude = pos.latitude;
-    out->longitude = pos.longitude;
+    if (out) wgs84_of(out, record, 20041);
 }
 
 KOVREL_API void ast_datarecord_020_get_flightlevel(AstRecordValue *out, const AstDataRecord *record) {
     if (!out) return;
-    AstModeCCode mode_c;
-    if (decode_first(&mode_c, record, 20090, ast_dataitem_mode_c_code_decode))
-        return set_value(out, true, mode_c.flight_level * 25.0);  // 1/4 FL = 25 ft
-    AstHeight height;
-    if (decode_first(&height, record, 20105, ast_dataitem_height_decode)) return set_value(out, true, height.value);
-    const bool ok = decode_first(&height, record, 20110, ast_dataitem_height_decode);
-    set_value(out, ok, ok ? height.value : 0.0);
+    if (flightlevel_of_mode_c(out, record, 20090) || height_of(out, record, 20105) || height_of(out, record, 20110))
+        return;
+    set_value(out, false, 0.0);
 }
 
 KOVREL_API void ast_datarecord_020_get_selaltitude(AstRecordValue *out, const AstDataRecord *record) {
-    if (!out) return;
-    set_value(out, false, 0.0);
-    AstModesMb mb;
-    if (!decode_first(&mb, record, 20250, ast_dataitem_modes_mb_decode)) return;
-    for (uint32_t i = 0; i < mb.rep && i < AST_MODES_MB_MAX_BDS; ++i) {
-        if (mb.bds[i].id != 0x40) continue;
-        const AstBds40 r = ast_bds_40_decode(&mb.bds[i]);
-        if (r.valid == 1 && r.mcp_alt_status == 1) return set_value(out, true, r.mcp_alt);
-    }
+    if (out) selaltitude_of_mb(out, record, 20250);
 }
 
 KOVREL_API void ast_datarecord_020_get_heading(AstRecordValue *out, const AstDataRecord *record) {
@@ -118,6 +85,17 @@ KOVREL_API void ast_datarecord_020_get_speed(AstRecordValue *out, const AstDataR
 
 KOVREL_API void ast_datarecord_020_get_cartesianvel(AstVelocityCartesian *out, const AstDataRecord *record) {
     if (out) decode_first(out, record, 20202, ast_dataitem_velocity_cartesian_decode);
+}
+
+KOVREL_API void ast_datarecord_020_get_vrate(AstVerticalRate *out, const AstDataRecord *record) {
+    if (out) vrate_of_mb(out, record, 20250);
+}
+
+KOVREL_API void ast_datarecord_020_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    AstPositionCartesian position;
+    if (decode_first(&position, record, 20042)) set_cartesian(out, position.x, position.y);
 }
 
 }  // extern "C"
@@ -139,7 +117,7 @@ constinit const AstDataRecordFuncs kRecordFuncs020 = {
     ast_datarecord_020_get_heading,
     ast_datarecord_020_get_speed,
     ast_datarecord_020_get_cartesianvel,
-    nullptr,  // no vertical rate
+    ast_datarecord_020_get_vrate,
 };
 
 }  // namespace kovrel

@@ -5,6 +5,7 @@
 #include "kovrel/cat048.h"
 #include "kovrel/datarecord.h"
 #include "record/record_access.h"
+#include "record/record_facts.h"
 #include "record/record_funcs.h"
 
 namespace {
@@ -14,13 +15,6 @@ using namespace kovrel::access;
 // The registers of the first I048/250 of the record.
 bool first_modes_mb(AstModesMb *mb, const AstDataRecord *record) {
     return decode_first(mb, record, 48250, ast_dataitem_modes_mb_decode);
-}
-
-void set_value(AstRecordValue *out, bool ok, double value) {
-    clear(out);
-    if (!ok) return;
-    out->valid = 1;
-    out->value = value;
 }
 
 }  // namespace
@@ -118,6 +112,14 @@ KOVREL_API void ast_datarecord_048_get_polarcoord(AstRecordPolar *out, const Ast
     out->valid = 1;
     out->rho = position.rho;
     out->theta = position.theta;
+}
+
+KOVREL_API void ast_datarecord_048_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    AstItem048_042 position;
+    if (decode_first(&position, record, 48042, ast_dataitem_048_042_decode))
+        set_cartesian(out, position.x * (1852.0 / 128.0), position.y * (1852.0 / 128.0));
 }
 
 }  // extern "C"

@@ -10,6 +10,7 @@
 #include "kovrel/cat062.h"
 #include "kovrel/datarecord.h"
 #include "record/record_access.h"
+#include "record/record_facts.h"
 #include "record/record_funcs.h"
 
 namespace {
@@ -18,13 +19,6 @@ using namespace kovrel::access;
 
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kKnotsPerMs = 3600.0 / 1852.0;
-
-void set_value(AstRecordValue *out, bool ok, double value) {
-    clear(out);
-    if (!ok) return;
-    out->valid = 1;
-    out->value = value;
-}
 
 // The aircraft derived data of the record. Large: callers keep one per call.
 bool first_derived(AstItem062_380 *adr, const AstDataRecord *record) {
@@ -174,6 +168,13 @@ KOVREL_API void ast_datarecord_062_get_vrate(AstVerticalRate *out, const AstData
     if (!first_derived(&adr, record)) return;
     if (adr.bvr_present == 1) return set_rate(out, adr.bvr_raw);
     if (adr.gvr_present == 1) set_rate(out, adr.gvr_raw);
+}
+
+KOVREL_API void ast_datarecord_062_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record) {
+    if (!out) return;
+    clear(out);
+    AstPositionCartesian position;
+    if (decode_first(&position, record, 62100)) set_cartesian(out, position.x, position.y);
 }
 
 }  // extern "C"
