@@ -141,12 +141,18 @@ typedef enum AstFieldSetResult {
     AST_FIELD_SET_UNKNOWN = 0,       /**< no field of that name (or no description, or no storage) */
     AST_FIELD_SET_OUT_OF_RANGE = -1, /**< the value does not fit the field */
     AST_FIELD_SET_WRONG_KIND = -2,   /**< e.g. a text for a number, a group given a value */
-    AST_FIELD_SET_READ_ONLY = -3     /**< the field cannot be set (arrays, octets, register groups) */
+    AST_FIELD_SET_READ_ONLY = -3     /**< the field cannot be set (octets, register groups) */
 } AstFieldSetResult;
 
 /**
  * Sets one field of the identifier's structure in storage, by its path
- * (names joined by '.': "rho", "bds.ara" for a field of a group).
+ * (names joined by '.': "rho", "bds.ara" for a field of a group; an element
+ * of an array by its position from 0: "devices[2]" for an array of values,
+ * "vectors[1].x" for a field of an array of groups). Setting an element
+ * past those in use brings the array's count up to it; the elements
+ * skipped take their defaults. An array as a whole takes no value
+ * (AST_FIELD_SET_WRONG_KIND); a position past the array's capacity is
+ * AST_FIELD_SET_OUT_OF_RANGE.
  * value->kind says which member of value is read: FLAG, UNSIGNED and ENUM
  * read u, SIGNED reads i, REAL reads real, TEXT reads text and length. A
  * number is converted to the field's kind when it fits exactly (an UNSIGNED

@@ -1,6 +1,7 @@
 // Filling a described structure by field name, for encoders fed with named
 // values (JSON, Python dictionaries).
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 
 #include "record/field_desc.h"
@@ -111,37 +112,129 @@ int set_value(const FieldRow &row, void *base, const AstField &v) {
 
 namespace kovrel::fields {
 
-int set_field(const FieldDesc &desc, void *storage, const char *path, const AstField &value) {
+namespace {
+
+// Sets the presence flag of a row, when it has one.
+void mark_present(const FieldRow &row, void *base) {
+    if (row.present.store != Store::None) write_integer(row.present, base, 1);
+}
+
+// "[index]" at the start of text: the index and the characters after "]";
+// false when text is not such a subscript (digits only, no sign).
+bool parse_index(const char *text, uint64_t &index, const char *&after) {
+    if (*text != '[' || text[1] < '0' || text[1] > '9') return false;
+    index = 0;
+    const char *p = text + 1;
+    for (; *p >= '0' && *p <= '9'; ++p) {
+        if (index > 0xFFFFFFFFu) return false;  // beyond any array; keeps the sum from overflowing
+        index = index * 10 + static_cast<uint64_t>(*p - '0');
+    }
+    if (*p != ']') return false;
+    after = p + 1;
+    return true;
+}
+
+int set_in(const FieldDesc &desc, void *storage, const char *path, const AstField &value, uint32_t depth);
+
+// Sets element `index` of the array row over base: `rest` is the path inside
+// an element of groups, nullptr for an element that is one value. An index
+// past the elements in use brings the count up to it, the elements skipped
+// on the way taking their defaults. Nothing changes on failure: the element
+// is set in a copy first.
+int set_element(const FieldRow &row, void *base, uint64_t index, const char *rest, const AstField &value,
+                uint32_t depth) {
+    const FieldDesc *d = row.nested;
+    if (!d || row.stride == 0 || row.stride > kMaxStorage || d->size > row.stride || depth >= kMaxDepth)
+        return AST_FIELD_SET_UNKNOWN;
+    int64_t lo;
+    uint64_t hi;
+    integer_limits(row.count, 0, lo, hi);
+    if (index >= row.max || index >= hi) return AST_FIELD_SET_OUT_OF_RANGE;
+    uint64_t count = read_unsigned(row.count, base);
+    if (count > row.max) count = row.max;
+    auto *first = static_cast<uint8_t *>(base) + row.m.offset;
+    uint8_t *at = first + index * row.stride;
+
+    alignas(std::max_align_t) uint8_t element[kMaxStorage];
+    if (index < count)
+        std::memcpy(element, at, row.stride);
+    else if (d->init)
+        d->init(element);
+    else
+        std::memset(element, 0, row.stride);
+    int r;
+    if (rest) {
+        r = set_in(*d, element, rest, value, depth + 1);
+    } else if (d->row_count == 1 && !d->rows[0].name) {
+        r = set_value(d->rows[0], element, value);
+        if (r == AST_FIELD_SET_OK) mark_present(d->rows[0], element);
+    } else {
+        r = AST_FIELD_SET_WRONG_KIND;  // an element of groups given one value
+    }
+    if (r != AST_FIELD_SET_OK) return r;
+    for (uint64_t k = count; k < index; ++k) {
+        uint8_t *skipped = first + k * row.stride;
+        if (d->init)
+            d->init(skipped);
+        else
+            std::memset(skipped, 0, row.stride);
+    }
+    std::memcpy(at, element, row.stride);
+    if (index >= count) write_integer(row.count, base, static_cast<int64_t>(index + 1));
+    return AST_FIELD_SET_OK;
+}
+
+int set_in(const FieldDesc &desc, void *storage, const char *path, const AstField &value, uint32_t depth) {
     const FieldDesc *d = &desc;
     void *base = storage;
     // Presence flags of the groups on the way, set only when the value is.
     const FieldRow *groups[kMaxDepth];
     void *group_bases[kMaxDepth];
     uint32_t group_count = 0;
+    auto mark_groups = [&] {
+        for (uint32_t i = 0; i < group_count; ++i) mark_present(*groups[i], group_bases[i]);
+    };
     for (;;) {
-        const char *dot = std::strchr(path, '.');
-        const size_t n = dot ? static_cast<size_t>(dot - path) : std::strlen(path);
+        const size_t n = std::strcspn(path, ".[");
         const FieldRow *row = find_row(*d, path, n);
         if (!row) return AST_FIELD_SET_UNKNOWN;
-        if (!dot) {
+        const char *next = path + n;
+        if (*next == '[') {
+            uint64_t index;
+            const char *after;
+            if (row->kind != kKindArray || !parse_index(next, index, after) || (*after != '\0' && *after != '.'))
+                return AST_FIELD_SET_UNKNOWN;
+            const int r = set_element(*row, base, index, *after == '.' ? after + 1 : nullptr, value,
+                                      depth + group_count);
+            if (r != AST_FIELD_SET_OK) return r;
+            mark_present(*row, base);
+            mark_groups();
+            return AST_FIELD_SET_OK;
+        }
+        if (*next == '\0') {
+            if (row->kind == kKindArray) return AST_FIELD_SET_WRONG_KIND;  // an array wants its elements
             const int r = set_value(*row, base, value);
             if (r != AST_FIELD_SET_OK) return r;
-            if (row->present.store != Store::None) write_integer(row->present, base, 1);
-            for (uint32_t i = 0; i < group_count; ++i)
-                if (groups[i]->present.store != Store::None) write_integer(groups[i]->present, group_bases[i], 1);
+            mark_present(*row, base);
+            mark_groups();
             return AST_FIELD_SET_OK;
         }
         if (row->kind != kKindGroup || !row->nested) {
-            return row->kind == kKindArray || row->kind == kKindCustom ? AST_FIELD_SET_READ_ONLY
-                                                                       : AST_FIELD_SET_UNKNOWN;
+            return row->kind == kKindCustom ? AST_FIELD_SET_READ_ONLY : AST_FIELD_SET_UNKNOWN;
         }
-        if (group_count == kMaxDepth) return AST_FIELD_SET_UNKNOWN;
+        if (group_count == kMaxDepth || depth + group_count >= kMaxDepth) return AST_FIELD_SET_UNKNOWN;
         groups[group_count] = row;
         group_bases[group_count++] = base;
         base = static_cast<uint8_t *>(base) + row->m.offset;
         d = row->nested;
-        path = dot + 1;
+        path = next + 1;
     }
+}
+
+}  // namespace
+
+int set_field(const FieldDesc &desc, void *storage, const char *path, const AstField &value) {
+    return set_in(desc, storage, path, value, 0);
 }
 
 }  // namespace kovrel::fields

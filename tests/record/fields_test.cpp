@@ -253,9 +253,52 @@ TEST(FieldMechanism, SettingEveryKindOfRow) {
     EXPECT_EQ(set("inner.fl", number(AST_FIELD_REAL, 350)), AST_FIELD_SET_OK);
     EXPECT_EQ(s.inner.level, 1400);
     EXPECT_EQ(s.inner.present, 1);
-    EXPECT_EQ(set("codes", number(AST_FIELD_UNSIGNED, 1)), AST_FIELD_SET_READ_ONLY);
+    EXPECT_EQ(set("codes", number(AST_FIELD_UNSIGNED, 1)), AST_FIELD_SET_WRONG_KIND);
     EXPECT_EQ(set("tid", number(AST_FIELD_UNSIGNED, 1)), AST_FIELD_SET_READ_ONLY);
     EXPECT_EQ(set("nothing", number(AST_FIELD_UNSIGNED, 1)), AST_FIELD_SET_UNKNOWN);
+}
+
+TEST(FieldMechanism, SettingArrayElementsByPosition) {
+    // Each step sets one path on the same structure; the counts and
+    // elements after the step, then what the JSON shows of them.
+    struct Step {
+        const char *path;
+        AstField value;
+        int result;
+        uint32_t count, element_count;
+    };
+    const Step steps[] = {
+        {"codes[0]", number(AST_FIELD_UNSIGNED, 7), AST_FIELD_SET_OK, 1, 0},
+        {"codes[2]", number(AST_FIELD_UNSIGNED, 9), AST_FIELD_SET_OK, 3, 0},  // [1] takes its default
+        {"codes[1]", number(AST_FIELD_SIGNED, 5), AST_FIELD_SET_OK, 3, 0},    // inside: count stays
+        {"codes[4]", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_OUT_OF_RANGE, 3, 0},  // four at most
+        {"codes[3]", number(AST_FIELD_SIGNED, -1), AST_FIELD_SET_OUT_OF_RANGE, 3, 0},   // nothing grows
+        {"codes[3].x", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 0},
+        {"codes[-1]", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 0},
+        {"codes[]", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 0},
+        {"codes[1", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 0},
+        {"codes[1]x", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 0},
+        {"codes[99999999999999999999]", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 0},
+        {"speed[0]", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 0},
+        {"rds[1].amb", number(AST_FIELD_SIGNED, -2), AST_FIELD_SET_OK, 3, 2},
+        {"rds[0].dop", number(AST_FIELD_UNSIGNED, 300), AST_FIELD_SET_OK, 3, 2},
+        {"rds[0].amb", number(AST_FIELD_SIGNED, 128), AST_FIELD_SET_OUT_OF_RANGE, 3, 2},
+        {"rds[0].nothing", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 2},
+        {"rds[0]", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_WRONG_KIND, 3, 2},
+        {"rds[2].dop", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_OUT_OF_RANGE, 3, 2},
+        {"rds.dop", number(AST_FIELD_UNSIGNED, 1), AST_FIELD_SET_UNKNOWN, 3, 2},
+    };
+    Sample s{};
+    for (const Step &step : steps) {
+        const Sample before = s;
+        EXPECT_EQ(set_field(kSample, &s, step.path, step.value), step.result) << step.path;
+        EXPECT_EQ(s.count, step.count) << step.path;
+        EXPECT_EQ(s.element_count, step.element_count) << step.path;
+        if (step.result != AST_FIELD_SET_OK) EXPECT_EQ(std::memcmp(&s, &before, sizeof s), 0) << step.path;
+    }
+    const std::string shown = json_of(s);
+    EXPECT_NE(shown.find(R"("codes":[7,5,9],"rds":[{"dop":300,"amb":0},{"dop":0,"amb":-2}])"), std::string::npos)
+        << shown;
 }
 
 TEST(FieldMechanism, SpansThatDoNotDecodeGiveNoFields) {

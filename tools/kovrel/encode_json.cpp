@@ -63,10 +63,10 @@ struct Storage {
     std::vector<std::max_align_t> words;
 };
 
-// Finds the field at a dotted path in a walk, and its format.
+// Finds the field at a path in a walk ("rds[1].dop"), and its format.
 struct FieldFinder {
     const std::string *target = nullptr;
-    std::vector<std::string> groups;  // names of the open groups and arrays
+    std::vector<std::string> groups;  // the paths of the open groups and arrays
     bool found = false;
     uint32_t format = AST_FIELD_FORMAT_DECIMAL;
 
@@ -76,12 +76,12 @@ struct FieldFinder {
             if (!self.groups.empty()) self.groups.pop_back();
             return 1;
         }
-        // Elements of arrays have no name; nothing inside them has a path.
-        std::string path;
-        for (const auto &g : self.groups) path += g + ".";
-        path += f->name ? f->name : "[]";
+        // Elements of arrays have no name but their position.
+        const std::string outer = self.groups.empty() ? std::string() : self.groups.back();
+        const std::string path = f->name ? (outer.empty() ? std::string() : outer + ".") + f->name
+                                         : outer + "[" + std::to_string(f->index) + "]";
         if (f->kind == AST_FIELD_GROUP_BEGIN || f->kind == AST_FIELD_ARRAY_BEGIN) {
-            self.groups.push_back(f->name ? f->name : "[]");
+            self.groups.push_back(path);
             return 1;
         }
         if (path != *self.target) return 1;
@@ -157,15 +157,10 @@ public:
     FieldSetter(AstItemId id, std::string id_text, Storage &storage)
         : id_(id), id_text_(std::move(id_text)), storage_(storage) {}
 
-    // Sets every leaf of the object, its nested objects as groups.
+    // Sets every leaf of the object, its nested objects as groups and its
+    // lists as arrays, element by element ("rds[1].dop").
     void set_all(const json &object, const std::string &prefix) {
-        for (auto it = object.begin(); it != object.end(); ++it) {
-            const std::string path = prefix + it.key();
-            if (it->is_object())
-                set_all(*it, path + ".");
-            else
-                set_leaf(path, *it);
-        }
+        for (auto it = object.begin(); it != object.end(); ++it) set_any(prefix + it.key(), *it);
     }
 
 private:
@@ -177,6 +172,21 @@ private:
 
     void check(const std::string &path, int result) const {
         if (result != AST_FIELD_SET_OK) fail(path, set_failure(result));
+    }
+
+    void set_any(const std::string &path, const json &v) {
+        if (v.is_object()) return set_all(v, path + ".");
+        if (!v.is_array()) return set_leaf(path, v);
+        // A list is an array's elements: the setter, which refuses an array
+        // a value as the wrong kind, says first whether the name is one.
+        Storage copy = storage_;
+        AstField zero{};
+        zero.kind = AST_FIELD_UNSIGNED;
+        const int result = ast_dataitem_fields_set(copy.data(), copy.size, id_, path.c_str(), &zero);
+        if (result == AST_FIELD_SET_UNKNOWN || result == AST_FIELD_SET_OK)
+            fail(path, set_failure(result == AST_FIELD_SET_OK ? AST_FIELD_SET_WRONG_KIND : result));
+        // An empty list leaves the array as its defaults have it.
+        for (size_t i = 0; i < v.size(); ++i) set_any(path + "[" + std::to_string(i) + "]", v[i]);
     }
 
     void set_leaf(const std::string &path, const json &v) {
@@ -203,13 +213,8 @@ private:
             return check(path, set(path, field));
         case json::value_t::string:
             return set_string(path, v.get_ref<const std::string &>());
-        default: {
-            // An array: the setter says whether the name exists at all.
-            Storage copy = storage_;
-            field.kind = AST_FIELD_UNSIGNED;
-            const int result = ast_dataitem_fields_set(copy.data(), copy.size, id_, path.c_str(), &field);
-            fail(path, set_failure(result == AST_FIELD_SET_OK ? AST_FIELD_SET_WRONG_KIND : result));
-        }
+        default:
+            fail(path, set_failure(AST_FIELD_SET_WRONG_KIND));
         }
     }
 

@@ -78,10 +78,9 @@ constexpr ItemRow kRows[] = {
      ast_dataitem_010_500_get_detail_html, ast_dataitem_010_500_encode_ex, ast_dataitem_010_500_decode_ex,
      &fields::k010_500},
     // Each presence is a range and an azimuth difference, one octet each.
-    // No encoder in the row: an array cannot be set by name, so the item is
-    // written from its octets; the record assembler uses its own encoder.
     {280, "Presence", ast_dataitem_get_size_rep_2_byte, ast_dataitem_010_280_get_summary,
-     ast_dataitem_010_280_get_detail_html, nullptr, ast_dataitem_010_280_decode_ex, &fields::k010_280},
+     ast_dataitem_010_280_get_detail_html, ast_dataitem_010_280_encode_ex, ast_dataitem_010_280_decode_ex,
+     &fields::k010_280},
     {131, "Amplitude of Primary Plot", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_010_131_get_summary,
      ast_dataitem_010_131_get_detail_html, ast_dataitem_010_131_encode_ex, ast_dataitem_010_131_decode_ex,
      &fields::k010_131},

@@ -7,15 +7,13 @@
 namespace kovrel {
 namespace {
 
-// I010/280 has no encoder in its dispatch row (its array cannot be set by
-// name); the record writes it with the item's own.
 #define M010(FIELD, ID) KOVREL_RECORD_MEMBER(AstRecord010, FIELD, ID)
 constexpr RecordMember kMembers010[] = {
     M010(i010, 10010), M010(i000, 10000), M010(i020, 10020), M010(i140, 10140), M010(i041, 10041),
     M010(i040, 10040), M010(i042, 10042), M010(i200, 10200), M010(i202, 10202), M010(i161, 10161),
     M010(i170, 10170), M010(i060, 10060), M010(i220, 10220), M010(i245, 10245), M010(i250, 10250),
     M010(i300, 10300), M010(i090, 10090), M010(i091, 10091), M010(i270, 10270), M010(i550, 10550),
-    M010(i310, 10310), M010(i500, 10500), KOVREL_RECORD_MEMBER_ENCODED(AstRecord010, i280, 10280, ast_dataitem_010_280_encode_ex), M010(i131, 10131), M010(i210, 10210),
+    M010(i310, 10310), M010(i500, 10500), M010(i280, 10280), M010(i131, 10131), M010(i210, 10210),
 };
 #undef M010
 

@@ -94,11 +94,9 @@ constexpr ItemRow kRows[] = {
      ast_dataitem_subfields_get_detail_html, ast_dataitem_020_500_encode_ex, ast_dataitem_020_500_decode_ex,
      &fields::k020_500, &kCompound020_500},
     // One octet of eight contribution bits per repetition.
-    // No encoder in the row (nor for I020/030): an array cannot be set by
-    // name, so the item is written from its octets; the record assembler
-    // uses its own encoder.
     {400, "Contributing Devices", ast_dataitem_get_size_rep_1_byte, ast_dataitem_020_400_get_summary,
-     ast_dataitem_020_400_get_detail_html, nullptr, ast_dataitem_020_400_decode_ex, &fields::k020_400},
+     ast_dataitem_020_400_get_detail_html, ast_dataitem_020_400_encode_ex, ast_dataitem_020_400_decode_ex,
+     &fields::k020_400},
     // Seven octets of register data and the register address octet.
     {250, "BDS Register Data", ast_dataitem_get_size_rep_8_byte, kModesMbSummary, kModesMbDetail,
      nullptr, ast_dataitem_020_250_decode_ex, &fields::kModesMb},
@@ -111,7 +109,8 @@ constexpr ItemRow kRows[] = {
     // Seven-bit warning/error values, each octet extended by its FX bit,
     // with no upper bound in the category.
     {30, "Warning/Error Conditions", ast_dataitem_get_size_var_unlimited, ast_dataitem_020_030_get_summary,
-     ast_dataitem_020_030_get_detail_html, nullptr, ast_dataitem_020_030_decode_ex, &fields::k020_030},
+     ast_dataitem_020_030_get_detail_html, ast_dataitem_020_030_encode_ex, ast_dataitem_020_030_decode_ex,
+     &fields::k020_030},
     {55, "Mode-1 Code in Octal Representation", ast_dataitem_get_size_fixed_1_byte, ast_dataitem_020_055_get_summary,
      ast_dataitem_020_055_get_detail_html, ast_dataitem_020_055_encode_ex, ast_dataitem_020_055_decode_ex,
      &fields::k020_055},

@@ -7,15 +7,13 @@
 namespace kovrel {
 namespace {
 
-// I020/400 and I020/030 have no encoder in their dispatch rows (their
-// arrays cannot be set by name); the record writes them with their own.
 #define M020(FIELD, ID) KOVREL_RECORD_MEMBER(AstRecord020, FIELD, ID)
 constexpr RecordMember kMembers020[] = {
     M020(i010, 20010), M020(i020, 20020), M020(i140, 20140), M020(i041, 20041), M020(i042, 20042),
     M020(i161, 20161), M020(i170, 20170), M020(i070, 20070), M020(i202, 20202), M020(i090, 20090),
     M020(i100, 20100), M020(i220, 20220), M020(i245, 20245), M020(i110, 20110), M020(i105, 20105),
-    M020(i210, 20210), M020(i300, 20300), M020(i310, 20310), M020(i500, 20500), KOVREL_RECORD_MEMBER_ENCODED(AstRecord020, i400, 20400, ast_dataitem_020_400_encode_ex),
-    M020(i250, 20250), M020(i230, 20230), M020(i260, 20260), KOVREL_RECORD_MEMBER_ENCODED(AstRecord020, i030, 20030, ast_dataitem_020_030_encode_ex), M020(i055, 20055),
+    M020(i210, 20210), M020(i300, 20300), M020(i310, 20310), M020(i500, 20500), M020(i400, 20400),
+    M020(i250, 20250), M020(i230, 20230), M020(i260, 20260), M020(i030, 20030), M020(i055, 20055),
     M020(i050, 20050),
 };
 #undef M020
