@@ -326,6 +326,10 @@ KOVREL_API void ast_dataitem_048_042_get_detail_html(char *buffer, size_t size, 
 /** Structured decode into storage (an AstItem048_042). */
 KOVREL_API void ast_dataitem_048_042_decode_ex(AstDataItemValue *out, void *storage, size_t storage_size,
                                                const AstDataItem *item);
+/** Writes X and Y (16-bit two's complement each); invalid when either is out of range. */
+KOVREL_API void ast_dataitem_048_042_encode(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem048_042 *in);
+KOVREL_API void ast_dataitem_048_042_encode_ex(AstDataItem *out, uint8_t *buffer, size_t size,
+                                               const AstDataItemValue *value);
 
 /** I048/050 Mode-2 Code; code is the 12-bit octal code as an integer. */
 typedef struct AstItem048_050 {

@@ -105,7 +105,7 @@ TEST(Cat048Items, ServedThroughTheDispatch) {
         {48020, "TYPE:ROLL_CALL CHN2 TST ME MI", enc, sizeof(AstItem048_020)},
         {48040, "RHO:1.0 THETA:90.0", enc, sizeof(AstItem048_040)},
         {48130, "SUBFIELDS:03/07", all, sizeof(AstItem048_130)},
-        {48042, "X:-1852.0 Y:1852.0 LSB:M", all, sizeof(AstItem048_042)},
+        {48042, "X:-1852.0 Y:1852.0 LSB:M", enc, sizeof(AstItem048_042)},
         {48170, "TYPE:SSR", all, sizeof(AstItem048_170)},
         {48210, "X:1.00 Y:0.01 V:0.88 H:1.41", all, sizeof(AstItem048_210)},
         {48030, "ERRCODE:1+ERRCODE:2+ERRCODE:4", all, sizeof(AstItem048_030)},
@@ -223,6 +223,16 @@ TEST(Cat048Items, EncodeDecodeRoundTrips) {
     p.theta_raw = 0xFFFF;
     EXPECT_EQ(encoded(ast_dataitem_048_040_encode, p), (Octets{0x12, 0x34, 0xFF, 0xFF}));
     EXPECT_TRUE(encoded(ast_dataitem_048_040_encode, p, 3).empty());
+
+    // I048/042 at both ends of each field; a value past 16 bits is refused.
+    for (const Octets &o : {Octets{0x80, 0x00, 0x7F, 0xFF}, Octets{0xFF, 0xFF, 0x00, 0x01}})
+        EXPECT_EQ(encoded(ast_dataitem_048_042_encode, decoded(ast_dataitem_048_042_decode, o, 48042)), o);
+    AstItem048_042 c{1, 32768, 0};
+    EXPECT_TRUE(encoded(ast_dataitem_048_042_encode, c).empty());
+    c = {1, 0, -32769};
+    EXPECT_TRUE(encoded(ast_dataitem_048_042_encode, c).empty());
+    c = {1, -32768, 32767};
+    EXPECT_TRUE(encoded(ast_dataitem_048_042_encode, c, 3).empty());
 
     // I048/050: codes 0000 and 7777 with each flag; the spare bit stays clear.
     for (const Octets &o : {Octets{0x00, 0x00}, Octets{0x8F, 0xFF}, Octets{0x40, 0x00}, Octets{0x2F, 0xFF}})

@@ -97,15 +97,15 @@ TEST(ToolCsv, RowsHoldRecordAndItemValues) {
 
     // Defaults: where and what the record is, and every record field.
     EXPECT_EQ(csv("block,offset,cat,uap,record,valid,sac,sic,tod,msgtype,track,mode3a,fl,sel_alt,callsign,icao,lat,"
-                  "lon,rho,theta,speed,heading,vx,vy,vrate",
+                  "lon,rho,theta,x,y,speed,heading,vx,vy,vrate",
                   block_of({kTagged})),
               "block,offset,cat,uap,record,valid,sac,sic,tod,msgtype,track,mode3a,fl,sel_alt,callsign,icao,lat,lon,"
-              "rho,theta,speed,heading,vx,vy,vrate\n"
-              "1,0,48,standard,1,true,25,1,12:34:56.789,Plot,,5077,,,DLH123,,,,,,,,,,\n");
+              "rho,theta,x,y,speed,heading,vx,vy,vrate\n"
+              "1,0,48,standard,1,true,25,1,12:34:56.789,Plot,,5077,,,DLH123,,,,,,,,,,,,\n");
     std::vector<CsvColumn> defaults;
     std::string error;
     ASSERT_TRUE(parse_csv_columns(default_csv_columns(), defaults, error));
-    EXPECT_EQ(defaults.size(), 25u);
+    EXPECT_EQ(defaults.size(), 27u);
     EXPECT_EQ(default_csv_columns().rfind("block,offset,cat,uap,record,valid,sac,sic,tod,", 0), 0u);
 
     // Captures have a packet and a time; a line end in a cell is quoted.

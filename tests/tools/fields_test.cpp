@@ -109,7 +109,7 @@ TEST(ToolFields, ReaderAnswersAsTheAccessors) {
     using kovrel_tool::RecordField;
     kovrel_tool::RecordFieldReader reader;
     kovrel_tool::RecordFields f;
-    size_t records = 0, answered = 0;
+    size_t records = 0, answered = 0, cartesians = 0;
     auto check = [&](const AstDataRecord &r) {
         ++records;
         reader.read(f, r, kovrel_tool::kAskAll);
@@ -163,6 +163,15 @@ TEST(ToolFields, ReaderAnswersAsTheAccessors) {
         AstVerticalRate rate;
         ast_datarecord_get_vrate(&rate, &r);
         EXPECT_EQ(f.has(RecordField::Vrate), rate.valid != 0);
+        AstRecordCartesian cartesian;
+        ast_datarecord_get_cartesiancoord(&cartesian, &r);
+        EXPECT_EQ(f.has(RecordField::X), cartesian.valid != 0);
+        EXPECT_EQ(f.has(RecordField::Y), cartesian.valid != 0);
+        if (cartesian.valid) {
+            EXPECT_EQ(f.x, cartesian.x);
+            EXPECT_EQ(f.y, cartesian.y);
+            ++cartesians;
+        }
 
         // The text line asks the Mode 3/A code only when no callsign shows.
         reader.read(f, r, kovrel_tool::kAskTags);
@@ -199,7 +208,7 @@ TEST(ToolFields, ReaderAnswersAsTheAccessors) {
     const Octets mine = cat048_block({kFull, kPadded, kSourceOnly, kCutShort});
     check_chunk(mine.data(), mine.size());
     std::mt19937 random(5);
-    const uint8_t categories[] = {1, 2, 4, 8, 10, 21, 34, 48, 62, 65};
+    const uint8_t categories[] = {1, 2, 4, 8, 10, 20, 21, 34, 48, 62, 65};
     for (int i = 0; i < 2000; ++i) {
         Octets b(4 + random() % 40);
         b[0] = categories[random() % sizeof categories];
@@ -210,6 +219,7 @@ TEST(ToolFields, ReaderAnswersAsTheAccessors) {
     }
     EXPECT_GT(records, 1000u);
     EXPECT_GT(answered, 150u);
+    EXPECT_GT(cartesians, 0u);
 }
 
 // What --stats counts per record, and a copy of the counts going its own way.

@@ -155,6 +155,8 @@ TEST(ToolJsonText, RecordFieldsObjectExactly) {
     all.lon = -2.25;
     all.rho = 139.578125;
     all.theta = 0.1;
+    all.x = 1852.5;
+    all.y = -0.5;
     all.speed = 420;
     all.heading = 39.0234375;
     all.vx = -0.25;
@@ -178,7 +180,7 @@ TEST(ToolJsonText, RecordFieldsObjectExactly) {
         {&all,
          R"({"sac":25,"sic":1,"tod":"09:05:07.045","msgtype":"Target Report","track":4095,"mode3a":"5077",)"
          R"("fl":35025.0,"sel_alt":34000.0,"callsign":"DLH\"1\\","icao":"3C654A","lat":48.5,"lon":-2.25,)"
-         R"("rho":139.578125,"theta":0.1,"speed":420.0,"heading":39.0234375,"vx":-0.25,"vy":0.0,"vrate":-1250.0})"},
+         R"("rho":139.578125,"theta":0.1,"x":1852.5,"y":-0.5,"speed":420.0,"heading":39.0234375,"vx":-0.25,"vy":0.0,"vrate":-1250.0})"},
         {&first_only, R"({"vrate":-1250.0})"},
         {&unnamed, R"({"msgtype":3,"mode3a":"0007","icao":"00000A"})"},
         {&none, "{}"},

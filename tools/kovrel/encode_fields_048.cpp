@@ -7,7 +7,7 @@ namespace kovrel_tool::record_fields {
 // CAT048: the record fields as the decoder shows them, each its item.
 void read_fields_048(const json &f, bool with_items, const AstUap &, FieldValues &out) {
     // What the items take, then what the decoder shows but the items do not carry.
-    only_known(f, {"sac", "sic", "tod", "typ", "rho", "theta", "mode3a", "fl", "icao", "callsign", "track", "speed",
+    only_known(f, {"sac", "sic", "tod", "typ", "rho", "theta", "x", "y", "mode3a", "fl", "icao", "callsign", "track", "speed",
                    "heading", "msgtype", "sel_alt", "lat", "lon", "vx", "vy", "vrate"});
     AstRecord048 &v = out.make<AstRecord048>();
     auto add = [&](AstItemId id, void *value) { out.add(id, value); };
@@ -37,6 +37,13 @@ void read_fields_048(const json &f, bool with_items, const AstUap &, FieldValues
         const uint32_t theta = azimuth(f, "theta");
         v.i040 = {1, rho, 1.0 / 256, rho / 256.0, theta, 360.0 / 65536, theta * 360.0 / 65536};
         add(48040, &v.i040);
+    }
+    if (pair(f, "x", "y")) {
+        // Metres, in steps of 1/128 NM.
+        const double lsb = 1852.0 / 128;
+        v.i042 = {1, static_cast<int32_t>(steps(f, "x", lsb, -32768, 32767)),
+                  static_cast<int32_t>(steps(f, "y", lsb, -32768, 32767))};
+        add(48042, &v.i042);
     }
     if (f.contains("mode3a")) {
         v.i070.valid = 1;

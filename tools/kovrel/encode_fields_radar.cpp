@@ -9,6 +9,7 @@
 //                     given, PSR alone otherwise); "Track" needs track
 //   track (0..65535)  I001/161 (makes the record a track)
 //   rho, theta        I001/040: NM (1/128), degrees
+//   x, y              I001/042: metres, in steps of 1/64 NM
 //   mode3a            I001/070: octal digits
 //   fl                I001/090: feet, in quarters of a flight level
 //   tod               I001/141: the time of day's low 16 bits (1/128 s)
@@ -71,7 +72,8 @@ void service_message(const json &f, bool with_items, FieldValues &out, AstItemId
 }  // namespace
 
 void read_fields_001(const json &f, bool with_items, const AstUap &, FieldValues &out) {
-    only_known(f, {"sac", "sic", "msgtype", "track", "rho", "theta", "mode3a", "fl", "tod", "speed", "heading"});
+    only_known(f, {"sac", "sic", "msgtype", "track", "rho", "theta", "x", "y", "mode3a", "fl", "tod", "speed",
+                   "heading"});
     if (AstDataSourceIdentifier *v = sac_sic(f, with_items, out)) out.add(1010, v);
     const bool ssr = f.contains("mode3a") || f.contains("fl");
     if (f.contains("msgtype") || !with_items) {
@@ -100,6 +102,14 @@ void read_fields_001(const json &f, bool with_items, const AstUap &, FieldValues
         const uint32_t theta = azimuth(f, "theta");
         v = {1, {rho, 1.0 / 128, rho / 128.0}, {theta, 360.0 / 65536, theta * 360.0 / 65536}};
         out.add(1040, &v);
+    }
+    if (pair(f, "x", "y")) {
+        const double lsb = 1852.0 / 64;
+        auto &v = out.make<AstItem001_042>();
+        const auto x = static_cast<int32_t>(steps(f, "x", lsb, -32768, 32767));
+        const auto y = static_cast<int32_t>(steps(f, "y", lsb, -32768, 32767));
+        v = {1, {x, 1.0 / 64, x / 64.0}, {y, 1.0 / 64, y / 64.0}};
+        out.add(1042, &v);
     }
     if (f.contains("mode3a")) {
         auto &v = out.make<AstMode3aCode>();

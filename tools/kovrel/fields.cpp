@@ -15,7 +15,8 @@ constexpr FieldInfo kFields[kRecordFieldCount] = {
     {"sac", kAskSource},     {"sic", kAskSource},      {"tod", kAskTime},       {"msgtype", kAskType},
     {"track", kAskTrack},    {"mode3a", kAskMode3a},   {"fl", kAskLevel},       {"sel_alt", kAskSelected},
     {"callsign", kAskCallsign}, {"icao", kAskAddress}, {"lat", kAskWgs84},      {"lon", kAskWgs84},
-    {"rho", kAskPolar},      {"theta", kAskPolar},     {"speed", kAskSpeed},    {"heading", kAskHeading},
+    {"rho", kAskPolar},      {"theta", kAskPolar},     {"x", kAskCartesian},    {"y", kAskCartesian},
+    {"speed", kAskSpeed},    {"heading", kAskHeading},
     {"vx", kAskVelocity},    {"vy", kAskVelocity},     {"vrate", kAskRate},
 };
 
@@ -23,7 +24,7 @@ constexpr FieldInfo kFields[kRecordFieldCount] = {
 constexpr std::string_view kMemberKeys[kRecordFieldCount] = {
     ",\"sac\":",     ",\"sic\":",   ",\"tod\":",  ",\"msgtype\":", ",\"track\":",
     ",\"mode3a\":",  ",\"fl\":",    ",\"sel_alt\":", ",\"callsign\":", ",\"icao\":",
-    ",\"lat\":",     ",\"lon\":",   ",\"rho\":",  ",\"theta\":",   ",\"speed\":",
+    ",\"lat\":",     ",\"lon\":",   ",\"rho\":",  ",\"theta\":",   ",\"x\":",  ",\"y\":",  ",\"speed\":",
     ",\"heading\":", ",\"vx\":",    ",\"vy\":",   ",\"vrate\":",
 };
 
@@ -173,6 +174,16 @@ void RecordFieldReader::read(RecordFields &f, const AstDataRecord &r, uint32_t w
             f.answered |= kAskPolar;
         }
     }
+    if (want & kAskCartesian) {
+        // Not a slot of the accessor table: the library's own dispatch.
+        AstRecordCartesian position;
+        ast_datarecord_get_cartesiancoord(&position, &r);
+        if (position.valid) {
+            f.x = position.x;
+            f.y = position.y;
+            f.answered |= kAskCartesian;
+        }
+    }
     if ((want & kAskSpeed) && ask(value, a.get_speed, r)) {
         f.speed = value.value;
         f.answered |= kAskSpeed;
@@ -229,6 +240,8 @@ FieldValue record_field_value(const RecordFields &f, RecordField field, char (&s
     case RecordField::Lon: real(f.lon); break;
     case RecordField::Rho: real(f.rho); break;
     case RecordField::Theta: real(f.theta); break;
+    case RecordField::X: real(f.x); break;
+    case RecordField::Y: real(f.y); break;
     case RecordField::Speed: real(f.speed); break;
     case RecordField::Heading: real(f.heading); break;
     case RecordField::Vx: real(f.vx); break;

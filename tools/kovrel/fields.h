@@ -16,6 +16,7 @@
 //   icao        six upper-case hexadecimal digits ("3C654A")
 //   lat, lon    WGS-84 position in degrees
 //   rho, theta  polar position: range in NM, azimuth in degrees
+//   x, y        Cartesian position in metres
 //   speed       ground speed in knots
 //   heading     degrees
 //   vx, vy      Cartesian velocity in m/s
@@ -36,9 +37,9 @@ namespace kovrel_tool {
 
 enum class RecordField : uint8_t {
     Sac, Sic, Tod, MsgType, Track, Mode3a, Fl, SelAlt, Callsign, Icao,
-    Lat, Lon, Rho, Theta, Speed, Heading, Vx, Vy, Vrate,
+    Lat, Lon, Rho, Theta, X, Y, Speed, Heading, Vx, Vy, Vrate,
 };
-constexpr size_t kRecordFieldCount = 19;
+constexpr size_t kRecordFieldCount = 21;
 
 // The key of a field ("sel_alt"), and the field of a key.
 const char *record_field_name(RecordField field);
@@ -49,10 +50,10 @@ enum : uint32_t {
     kAskSource = 1u << 0, kAskTime = 1u << 1, kAskType = 1u << 2, kAskTrack = 1u << 3,
     kAskMode3a = 1u << 4, kAskLevel = 1u << 5, kAskSelected = 1u << 6, kAskCallsign = 1u << 7,
     kAskAddress = 1u << 8, kAskWgs84 = 1u << 9, kAskPolar = 1u << 10, kAskSpeed = 1u << 11,
-    kAskHeading = 1u << 12, kAskVelocity = 1u << 13, kAskRate = 1u << 14,
-    kAskAll = (1u << 15) - 1,
+    kAskHeading = 1u << 12, kAskVelocity = 1u << 13, kAskRate = 1u << 14, kAskCartesian = 1u << 15,
+    kAskAll = (1u << 16) - 1,
     // With kAskMode3a: the code only when there is no callsign to show.
-    kAskMode3aUnlessCallsign = 1u << 15,
+    kAskMode3aUnlessCallsign = 1u << 16,
     // What the text line shows.
     kAskTags = kAskSource | kAskTime | kAskType | kAskCallsign | kAskMode3a | kAskMode3aUnlessCallsign,
 };
@@ -71,7 +72,7 @@ struct RecordFields {
     char callsign[9] = {};
     size_t callsign_length = 0;
     uint32_t icao = 0;
-    double lat = 0, lon = 0, rho = 0, theta = 0, speed = 0, heading = 0, vx = 0, vy = 0, vrate = 0;
+    double lat = 0, lon = 0, rho = 0, theta = 0, x = 0, y = 0, speed = 0, heading = 0, vx = 0, vy = 0, vrate = 0;
 
     bool has(RecordField field) const { return (answered & record_field_accessor(field)) != 0; }
 };

@@ -90,7 +90,7 @@ constexpr ItemRow kRows[] = {
      ast_dataitem_048_161_encode_ex, ast_dataitem_048_161_decode_ex, &fields::kTrackNumber},
     {42, "Calculated Position in Cartesian Co-ordinates", ast_dataitem_get_size_fixed_4_byte,
      ast_dataitem_048_042_get_summary, ast_dataitem_048_042_get_detail_html,
-     nullptr, ast_dataitem_048_042_decode_ex, &fields::k048_042},
+     ast_dataitem_048_042_encode_ex, ast_dataitem_048_042_decode_ex, &fields::k048_042},
     // "Ploar" is the name existing consumers display and match on.
     {200, "Calculated Track Velocity in Ploar Co-ordinates", ast_dataitem_get_size_fixed_4_byte,
      ast_dataitem_velocity_polar_get_summary, ast_dataitem_velocity_polar_get_detail_html,

@@ -107,6 +107,14 @@ KOVREL_API void ast_dataitem_048_042_decode(AstItem048_042 *out, const AstDataIt
     out->valid = 1;
 }
 
+KOVREL_API void ast_dataitem_048_042_encode(AstDataItem *out, uint8_t *buffer, size_t size, const AstItem048_042 *in) {
+    if (!items::encode_begin(out, buffer, size, kLength)) return;
+    if (!in || in->valid != 1 || in->x < -32768 || in->x > 32767 || in->y < -32768 || in->y > 32767) return;
+    ast_twos_complement_encode(buffer, 2, in->x);
+    ast_twos_complement_encode(buffer + 2, 2, in->y);
+    items::encode_done(out, buffer, kLength);
+}
+
 KOVREL_API void ast_dataitem_048_042_get_summary(char *buffer, size_t size, const AstDataItem *item) {
     items::describe(buffer, size, item, ast_dataitem_048_042_decode, [](TextWriter &w, const auto &p) {
         w.append("X:");
@@ -136,6 +144,7 @@ KOVREL_API void ast_dataitem_048_042_get_detail_html(char *buffer, size_t size, 
 KOVREL_DECODE_EX(048_040, AstItem048_040, ast_dataitem_048_040_decode)
 KOVREL_ENCODE_EX(048_040, AstItem048_040, ast_dataitem_048_040_encode)
 KOVREL_DECODE_EX(048_042, AstItem048_042, ast_dataitem_048_042_decode)
+KOVREL_ENCODE_EX(048_042, AstItem048_042, ast_dataitem_048_042_encode)
 
 namespace kovrel::fields {
 
