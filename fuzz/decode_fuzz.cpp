@@ -28,19 +28,29 @@ using namespace fuzzing;
 AstDataBlock g_block;
 AstDataBlock g_rewritten;
 
-// Collects the leaves of a walk as (path, value) pairs; groups and arrays
-// must open and close in step.
+// Collects the leaves of a walk as (path, value) pairs, array elements by
+// their positions ("vectors[1].x"); groups and arrays must open and close
+// in step.
 struct Leaves {
     static constexpr size_t kMax = 256;
     char paths[kMax][128];
     AstField values[kMax];
     size_t count = 0;
-    bool settable = true;  // no leaf sits inside an array or was dropped
+    bool settable = true;  // no leaf was dropped
     const char *names[16];
+    uint32_t indices[16];
     size_t count_at_open[16];  // leaves collected when each open group began
     uint32_t depth = 0;
-    uint32_t in_array = 0;
 };
+
+// Appends one step of a path: ".name" (no dot first), or "[index]" for an
+// element of an array.
+void append_step(char *path, size_t &at, size_t size, const char *name, uint32_t index) {
+    const int n = name ? std::snprintf(path + at, size - at, at == 0 ? "%s" : ".%s", name)
+                       : std::snprintf(path + at, size - at, "[%u]", index);
+    if (n < 0 || at + static_cast<size_t>(n) >= size) __builtin_trap();
+    at += static_cast<size_t>(n);
+}
 
 int collect(void *context, const AstField *f) {
     auto &l = *static_cast<Leaves *>(context);
@@ -49,8 +59,8 @@ int collect(void *context, const AstField *f) {
     if (f->depth + (closes ? 1 : 0) != l.depth) __builtin_trap();
     if (f->kind == AST_FIELD_GROUP_BEGIN || f->kind == AST_FIELD_ARRAY_BEGIN) {
         if (l.depth >= 16) __builtin_trap();
-        if (l.in_array > 0 || f->kind == AST_FIELD_ARRAY_BEGIN || !f->name) ++l.in_array;
         l.count_at_open[l.depth] = l.count;
+        l.indices[l.depth] = f->index;
         l.names[l.depth++] = f->name;
         return 1;
     }
@@ -60,22 +70,17 @@ int collect(void *context, const AstField *f) {
         // A group without a leaf (a present subfield with nothing in it)
         // cannot be said by name: only its octets give it.
         if (l.count == l.count_at_open[l.depth]) l.settable = false;
-        if (l.in_array > 0) --l.in_array;
         return 1;
     }
-    if (l.in_array > 0 || f->kind == AST_FIELD_OCTETS || l.count == Leaves::kMax) {
+    if (f->kind == AST_FIELD_OCTETS || l.count == Leaves::kMax) {
         l.settable = false;
         return 1;
     }
     char *path = l.paths[l.count];
     size_t at = 0;
-    for (uint32_t i = 0; i <= l.depth; ++i) {
-        const char *name = i < l.depth ? l.names[i] : f->name;
-        if (!name) __builtin_trap();
-        const int n = std::snprintf(path + at, sizeof l.paths[0] - at, i == 0 ? "%s" : ".%s", name);
-        if (n < 0 || at + static_cast<size_t>(n) >= sizeof l.paths[0]) __builtin_trap();
-        at += static_cast<size_t>(n);
-    }
+    path[0] = '\0';
+    for (uint32_t i = 0; i < l.depth; ++i) append_step(path, at, sizeof l.paths[0], l.names[i], l.indices[i]);
+    append_step(path, at, sizeof l.paths[0], f->name, f->index);
     l.values[l.count++] = *f;
     return 1;
 }

@@ -152,6 +152,38 @@ TEST(ToolEncode, RadarRecordFieldsBecomeItems) {
     }
 }
 
+TEST(ToolEncode, ItemFieldCategoriesComeBackFromTheDecoder) {
+    // Record fields of CAT008/010/015/016/019/020, written as fields of
+    // their items and read back by the decoder's accessors, at values each
+    // item holds exactly (positions on whole steps, 1/16 or 1/4 m/s
+    // velocities, flight levels in quarters).
+    const char *const lines[] = {
+        R"({"cat":10,"fields":{"sac":1,"sic":2,"tod":"01:00:00.500","track":77,"mode3a":"1234","fl":3525,)"
+        R"("icao":"3C654A","callsign":"DLH123","lat":45.0,"lon":-22.5,"x":100,"y":-200,"vx":3.25,"vy":-4}})",
+        R"({"cat":20,"fields":{"sac":3,"sic":4,"tod":"23:59:59.000","track":4095,"mode3a":"7700","fl":-100,)"
+        R"("icao":"ABCDEF","callsign":"SWR94K","lat":-45.0,"lon":90.0,"x":-0.5,"y":8000,"vx":-0.25,"vy":10}})",
+        R"({"cat":8,"fields":{"sac":5,"sic":6,"tod":"00:00:01.000"}})",
+        R"({"cat":15,"fields":{"sac":7,"sic":8,"tod":"12:00:00.250","track":300}})",
+        R"({"cat":16,"fields":{"sac":9,"sic":10,"tod":"00:10:00.000"}})",
+        R"({"cat":19,"fields":{"sac":11,"sic":12,"tod":"06:00:00.000"}})",
+    };
+    for (const char *line : lines) {
+        const json given = json::parse(line)["fields"];
+        const Encoded e = encode(std::string(line) + "\n");
+        EXPECT_EQ(e.messages, "") << line;
+        const auto back = fields_back(e.blocks);
+        ASSERT_EQ(back.size(), 1u) << line;
+        for (auto it = given.begin(); it != given.end(); ++it)
+            EXPECT_EQ(back[0].value(it.key(), json()), it.value()) << line << " " << it.key();
+    }
+    // The fields the decoder shows but no item takes are accepted: a
+    // decoded line encodes again.
+    const Encoded e = encode(R"({"cat":20,"fields":{"sac":1,"sic":2,"msgtype":"Mlat","speed":9.7,"heading":45,)"
+                             R"("vrate":-1024,"sel_alt":4000,"rho":1,"theta":2}})" "\n");
+    EXPECT_EQ(e.messages, "");
+    EXPECT_EQ(hex(e.blocks), "14 00 06 80 01 02");
+}
+
 TEST(ToolEncode, ItemsByFieldsAndByOctets) {
     const struct {
         const char *line;
@@ -236,6 +268,14 @@ TEST(ToolEncode, BadLinesSayWhereAndAreSkipped) {
         {R"({"cat":1,"fields":{"sac":1,"sic":2,"track":65536}})", "track: not a whole number from 0 to 65535"},
         {R"({"cat":1,"uap":"cat001_plot","fields":{"sac":1,"sic":2,"track":7}})", "I001/161: not in profile cat001_plot"},
         {R"({"cat":34,"fields":{"sac":1,"sic":2}})", "msgtype is required"},
+        // The categories whose record fields are set as item fields.
+        {R"({"cat":10,"fields":{"sac":1}})", "sac and sic go together"},
+        {R"({"cat":20,"fields":{"tod":1}})", "sac and sic are required"},
+        {R"({"cat":20,"fields":{"sac":1,"sic":2,"x":1}})", "x and y go together"},
+        {R"({"cat":19,"fields":{"sac":1,"sic":2,"trk":3}})", "trk: unknown field"},
+        {R"({"cat":10,"fields":{"sac":1,"sic":2,"fl":1e9}})", "fl: value out of range"},
+        {R"({"cat":20,"fields":{"sac":1,"sic":2,"x":1e9,"y":0}})", "x: value out of range"},
+        {R"({"cat":15,"fields":{"sac":256,"sic":2}})", "sac: value out of range"},
         {R"({"cat":2,"fields":{"sac":1,"sic":2,"msgtype":"South"}})",
          "msgtype: not North or Sector (give other types as items)"},
         {R"({"cat":2,"fields":{"sac":1,"sic":2,"msgtype":"North","fl":100}})", "fl: unknown field"},
@@ -409,19 +449,6 @@ struct ItemObjects {
     size_t by_fields = 0;
 };
 
-// Arrays cannot be set by name: an item holding one goes by its octets.
-bool without_arrays(const AstDataItem &item) {
-    bool arrays = false;
-    ast_dataitem_walk_fields(
-        &item,
-        [](void *context, const AstField *f) {
-            if (f->kind == AST_FIELD_ARRAY_BEGIN) *static_cast<bool *>(context) = true;
-            return 1;
-        },
-        &arrays);
-    return !arrays;
-}
-
 ItemObjects item_objects(const AstDataRecord &record, bool fields_allowed) {
     ItemObjects out;
     for (uint64_t i = 0; i < record.item_count; ++i) {
@@ -437,7 +464,7 @@ ItemObjects item_objects(const AstDataRecord &record, bool fields_allowed) {
         }
         fields.resize(need);
         const bool encodable = (ast_dataitem_get_capabilities(item.id) & AST_DATAITEM_CAP_ENCODE) != 0;
-        if (fields_allowed && encodable && need > 0 && encoder_reproduces(item) && without_arrays(item)) {
+        if (fields_allowed && encodable && need > 0 && encoder_reproduces(item)) {
             object["fields"] = json::parse(fields);
             ++out.by_fields;
         } else {

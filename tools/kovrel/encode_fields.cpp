@@ -97,6 +97,12 @@ Reader reader_for(uint32_t category) {
     switch (category) {
     case 1: return read_fields_001;
     case 2: return read_fields_002;
+    case 8: return read_fields_008;
+    case 10: return read_fields_010;
+    case 15: return read_fields_015;
+    case 16: return read_fields_016;
+    case 19: return read_fields_019;
+    case 20: return read_fields_020;
     case 21: return read_fields_021;
     case 34: return read_fields_034;
     case 48: return read_fields_048;

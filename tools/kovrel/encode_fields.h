@@ -71,6 +71,12 @@ using Reader = void (*)(const json &fields, bool with_items, const AstUap &uap, 
 // The reader of a category, or nullptr when its records take items only.
 Reader reader_for(uint32_t category);
 
+void read_fields_008(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
+void read_fields_010(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
+void read_fields_015(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
+void read_fields_016(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
+void read_fields_019(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
+void read_fields_020(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 void read_fields_001(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 void read_fields_002(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 void read_fields_021(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);

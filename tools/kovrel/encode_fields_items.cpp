@@ -1,0 +1,180 @@
+// `kovrel encode`: the record fields of the categories whose items describe
+// themselves by the same names the decoder shows. Each record field is set,
+// by name, as a field of its item (the item's own scaling applies):
+//
+//   field        CAT010    CAT020    CAT008 / CAT016 / CAT019   CAT015
+//   sac, sic     I010/010  I020/010  I008/010 ...               I015/010
+//   tod          I010/140  I020/140  I008/090, I016/140, I019/140  I015/145
+//   track        I010/161  I020/161                             I015/161
+//   mode3a       I010/060  I020/070
+//   fl (feet)    I010/090  I020/090
+//   icao         I010/220  I020/220
+//   callsign     I010/245  I020/245
+//   lat, lon     I010/041  I020/041
+//   x, y (m)     I010/042  I020/042
+//   vx, vy (m/s) I010/202  I020/202
+//
+// sac and sic are required without items. With items, fl is left to them:
+// the decoder also shows it from a height item (I010/091, I020/105,
+// I020/110) when there is no Mode C code. Every other record field the
+// decoder shows (msgtype, rho, theta, speed, heading, sel_alt, vrate, and
+// what CAT015 reads from its measurement items) is accepted and left out,
+// so that decoded records encode again: those come from items that carry
+// more than the field, given as items.
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+
+#include "encode_fields.h"
+
+namespace kovrel_tool::record_fields {
+namespace {
+
+// How a record field's JSON value becomes the item field's value.
+enum class Conv { Whole, Real, Seconds, FeetToFl, Octal, Hex, Callsign };
+
+struct Mapping {
+    const char *key;
+    AstItemId id;
+    const char *path;  // the item's field
+    Conv conv;
+};
+
+// Every record field the decoder shows.
+constexpr const char *kShown[] = {"sac",      "sic",  "tod", "msgtype", "track", "mode3a", "fl",
+                                  "sel_alt",  "callsign", "icao", "lat", "lon", "rho", "theta",
+                                  "x",        "y",    "speed", "heading", "vx", "vy", "vrate"};
+
+constexpr Mapping k010[] = {
+    {"sac", 10010, "sac", Conv::Whole},       {"sic", 10010, "sic", Conv::Whole},
+    {"tod", 10140, "tod", Conv::Seconds},     {"track", 10161, "trn", Conv::Whole},
+    {"mode3a", 10060, "mode3a", Conv::Octal}, {"fl", 10090, "fl", Conv::FeetToFl},
+    {"icao", 10220, "aa", Conv::Hex},         {"callsign", 10245, "tid", Conv::Callsign},
+    {"lat", 10041, "lat", Conv::Real},        {"lon", 10041, "lon", Conv::Real},
+    {"x", 10042, "x", Conv::Real},            {"y", 10042, "y", Conv::Real},
+    {"vx", 10202, "vx", Conv::Real},          {"vy", 10202, "vy", Conv::Real},
+};
+constexpr Mapping k020[] = {
+    {"sac", 20010, "sac", Conv::Whole},       {"sic", 20010, "sic", Conv::Whole},
+    {"tod", 20140, "tod", Conv::Seconds},     {"track", 20161, "trn", Conv::Whole},
+    {"mode3a", 20070, "mode3a", Conv::Octal}, {"fl", 20090, "fl", Conv::FeetToFl},
+    {"icao", 20220, "aa", Conv::Hex},         {"callsign", 20245, "tid", Conv::Callsign},
+    {"lat", 20041, "lat", Conv::Real},        {"lon", 20041, "lon", Conv::Real},
+    {"x", 20042, "x", Conv::Real},            {"y", 20042, "y", Conv::Real},
+    {"vx", 20202, "vx", Conv::Real},          {"vy", 20202, "vy", Conv::Real},
+};
+constexpr Mapping k008[] = {
+    {"sac", 8010, "sac", Conv::Whole}, {"sic", 8010, "sic", Conv::Whole}, {"tod", 8090, "tod", Conv::Seconds}};
+constexpr Mapping k015[] = {{"sac", 15010, "sac", Conv::Whole},
+                            {"sic", 15010, "sic", Conv::Whole},
+                            {"tod", 15145, "tod", Conv::Seconds},
+                            {"track", 15161, "trn", Conv::Whole}};
+constexpr Mapping k016[] = {
+    {"sac", 16010, "sac", Conv::Whole}, {"sic", 16010, "sic", Conv::Whole}, {"tod", 16140, "tod", Conv::Seconds}};
+constexpr Mapping k019[] = {
+    {"sac", 19010, "sac", Conv::Whole}, {"sic", 19010, "sic", Conv::Whole}, {"tod", 19140, "tod", Conv::Seconds}};
+
+// The value of one record field as the item field takes it.
+AstField value_of(const json &f, const Mapping &m, std::string &text_keep) {
+    AstField v{};
+    switch (m.conv) {
+    case Conv::Whole:
+        v.kind = AST_FIELD_SIGNED;
+        v.i = whole(f, m.key, -(1LL << 40), 1LL << 40);
+        break;
+    case Conv::Real:
+        v.kind = AST_FIELD_REAL;
+        v.real = number(f, m.key);
+        break;
+    case Conv::Seconds:
+        v.kind = AST_FIELD_REAL;
+        v.real = time_of_day_raw(f) / 128.0;
+        break;
+    case Conv::FeetToFl:
+        v.kind = AST_FIELD_REAL;
+        v.real = number(f, m.key) / 100.0;
+        break;
+    case Conv::Octal:
+        v.kind = AST_FIELD_UNSIGNED;
+        v.u = digits(f, m.key, 8, 4);
+        break;
+    case Conv::Hex:
+        v.kind = AST_FIELD_UNSIGNED;
+        v.u = digits(f, m.key, 16, 6);
+        break;
+    case Conv::Callsign:
+        text_keep = callsign(f, m.key);
+        v.kind = AST_FIELD_TEXT;
+        v.text = text_keep.c_str();
+        v.length = text_keep.size();
+        break;
+    }
+    return v;
+}
+
+const char *failure(int result) {
+    switch (result) {
+    case AST_FIELD_SET_OUT_OF_RANGE: return "value out of range";
+    case AST_FIELD_SET_WRONG_KIND: return "wrong kind of value";
+    default: return "cannot be written";
+    }
+}
+
+template <size_t N>
+void read_by_items(const json &f, bool with_items, const Mapping (&table)[N], FieldValues &out) {
+    for (auto it = f.begin(); it != f.end(); ++it) {
+        const std::string &key = it.key();
+        if (std::none_of(std::begin(kShown), std::end(kShown), [&](const char *k) { return key == k; }))
+            bad(key, "unknown field");
+    }
+    auto written = [&](const Mapping &m) { return f.contains(m.key) && !(with_items && m.conv == Conv::FeetToFl); };
+    if (!pair(f, "sac", "sic") && !with_items) throw BadField("sac and sic are required");
+    for (const char *a : {"lat", "x", "vx"}) {
+        const char *b = a[0] == 'l' ? "lon" : a[0] == 'x' ? "y" : "vy";
+        if (std::any_of(std::begin(table), std::end(table), [&](const Mapping &m) { return std::strcmp(m.key, a) == 0; }))
+            pair(f, a, b);
+    }
+    // Items in the order of their first mapping; each one structure.
+    for (size_t i = 0; i < N; ++i) {
+        const AstItemId id = table[i].id;
+        if (std::any_of(table, table + i, [&](const Mapping &m) { return m.id == id; })) continue;
+        if (std::none_of(table + i, table + N, [&](const Mapping &m) { return m.id == id && written(m); }))
+            continue;
+        const size_t size = ast_dataitem_fields_storage_size(id);
+        auto storage = std::make_shared<std::vector<std::max_align_t>>(size / sizeof(std::max_align_t) + 1);
+        out.storage.push_back(storage);
+        if (size == 0 || ast_dataitem_fields_init(storage->data(), size, id) != 1) bad(table[i].key, "cannot be written");
+        for (size_t k = i; k < N; ++k) {
+            const Mapping &m = table[k];
+            if (m.id != id || !written(m)) continue;
+            std::string keep;
+            const AstField v = value_of(f, m, keep);
+            const int result = ast_dataitem_fields_set(storage->data(), size, id, m.path, &v);
+            if (result != AST_FIELD_SET_OK) bad(m.key, failure(result));
+        }
+        out.add(id, storage->data());
+    }
+}
+
+}  // namespace
+
+void read_fields_008(const json &f, bool with_items, const AstUap &, FieldValues &out) {
+    read_by_items(f, with_items, k008, out);
+}
+void read_fields_010(const json &f, bool with_items, const AstUap &, FieldValues &out) {
+    read_by_items(f, with_items, k010, out);
+}
+void read_fields_015(const json &f, bool with_items, const AstUap &, FieldValues &out) {
+    read_by_items(f, with_items, k015, out);
+}
+void read_fields_016(const json &f, bool with_items, const AstUap &, FieldValues &out) {
+    read_by_items(f, with_items, k016, out);
+}
+void read_fields_019(const json &f, bool with_items, const AstUap &, FieldValues &out) {
+    read_by_items(f, with_items, k019, out);
+}
+void read_fields_020(const json &f, bool with_items, const AstUap &, FieldValues &out) {
+    read_by_items(f, with_items, k020, out);
+}
+
+}  // namespace kovrel_tool::record_fields
