@@ -149,7 +149,7 @@ int main(int argc, char **argv) {
 
     kovrel_tool::EncodeOptions encode_options;
     auto *encode = app.add_subcommand(
-        "encode", "write data blocks from JSON Lines (items of any category, record fields of CAT001, 002, 021, 034 and 048)");
+        "encode", "write data blocks from JSON Lines (items of any category, record fields of CAT001, 002, 008, 010, 015, 016, 019, 020, 021, 034 and 048)");
     encode->add_option("file", encode_options.file, "JSON Lines, one record per line (\"-\" or none: standard input)");
     encode->add_option("-o,--output", encode_options.output, "write the blocks to FILE instead of standard output");
     encode->add_option("--block-records", encode_options.block_records,
@@ -157,20 +157,22 @@ int main(int argc, char **argv) {
         ->capture_default_str();
     encode->footer(
         "Each line is one JSON object shaped like those of `kovrel decode --format json`: \"cat\", \"uap\" (a "
-        "profile name; default standard, for CAT021 cat021_ver21), and \"items\", \"fields\" (CAT001, 002, 021, 034, 048) or both. \"items\" lists objects "
+        "profile name; default standard, for CAT021 cat021_ver21), and \"items\", \"fields\" (those categories) or both. \"items\" lists objects "
         "{\"id\": \"I048/040\", \"fields\": {...}} or {\"id\": ..., \"hex\": \"0c 80 20 00\"}: an item the library "
-        "encodes is built from its fields, each set by its dotted path (a nested object is a group) from numbers, "
+        "encodes is built from its fields, each set by its dotted path (a nested object is a group, a list an array set element by element: devices[0], devices[1]) from numbers, "
         "booleans and texts, Mode 3/A codes and addresses from octal or hexadecimal digits, null leaving the "
         "default; any other item is copied from hex, which must be exactly one item of that id. Items may come in "
         "any order; the FSPEC follows the profile. The record fields of CAT048: sac and sic (required without "
         "items), tod (\"HH:MM:SS.fff\"), typ (0-7; without items default 5 with icao, else 2), "
-        "rho (NM) with theta (degrees), mode3a (octal digits, as a string), fl (feet), icao (hexadecimal digits), "
+        "rho (NM) with theta (degrees), x with y (metres), mode3a (octal digits, as a string), fl (feet), icao (hexadecimal digits), "
         "callsign, track, speed (knots) with heading (degrees); the other keys of decoded fields are left out. "
         "CAT001: sac, sic, msgtype (Plot or Track: I001/020, written without items), track, rho with theta, "
-        "mode3a, fl, tod (I001/141, the low 16 bits), speed with heading; use uap cat001_plot for plots. CAT002 "
+        "x with y, mode3a, fl, tod (I001/141, the low 16 bits), speed with heading; use uap cat001_plot for plots. CAT002 "
         "and CAT034: sac, sic, msgtype (North or Sector; both required without items), tod, sector (degrees). "
         "CAT021, in the line's edition: sac, sic, tod, track, mode3a, fl, sel_alt, icao, callsign, lat with lon, "
-        "speed with heading, vrate (see the README for the items of each edition). "
+        "speed with heading, vrate (see the README for the items of each edition). CAT010 and CAT020: sac, sic, tod, "
+        "track, mode3a, fl (without items), icao, callsign, lat with lon, x with y, vx with vy; CAT015: sac, sic, "
+        "tod, track; CAT008, 016, 019: sac, sic, tod (set as the fields of their items). "
         "Values are rounded to the nearest step of their item; an item in items wins over the same item from "
         "fields. Consecutive records of a category share a block; the blocks are written back to back. Bad lines "
         "are reported on standard error with their line number, item and field (\"in.jsonl:3: I048/010.sac: value "
