@@ -1,13 +1,13 @@
 // CAT008's own items: the vector qualifier and contour identifier, the
 // polar, Cartesian and start/end weather vectors, the contour points, the
 // processing and station status, and the picture's item count. Each is one
-// packed layout (categories/cat015/packed.h) that gives its decoder,
+// packed layout (items/packed.h) that gives its decoder,
 // encoder, texts and named fields.
 #include <cmath>
 #include <iterator>
 
 #include "categories/cat008/item_fields.h"
-#include "categories/cat015/packed.h"
+#include "items/packed.h"
 #include "kovrel/cat008.h"
 
 namespace {

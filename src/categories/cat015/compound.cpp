@@ -1,5 +1,5 @@
 // CAT015's twelve compound items, subfield by subfield: every subfield is
-// one packed layout (categories/cat015/packed.h) over the item's structure,
+// one packed layout (items/packed.h) over the item's structure,
 // which gives the item's decoder and encoder, each subfield's summary and
 // detail view, and the named fields (one group per subfield, present when
 // its bit is set). Every subfield has a fixed length.
@@ -7,7 +7,7 @@
 
 #include "categories/cat015/compound.h"
 #include "categories/cat015/item_fields.h"
-#include "categories/cat015/packed.h"
+#include "items/packed.h"
 #include "kovrel/cat015.h"
 
 namespace {

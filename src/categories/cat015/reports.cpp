@@ -1,12 +1,12 @@
 // CAT015's own simple items: the message type, target report descriptor,
 // warnings, update period, track status, classification, measurement
 // identifiers and associations, and the contour of the target. Each is one
-// packed layout (categories/cat015/packed.h) that gives its decoder,
+// packed layout (items/packed.h) that gives its decoder,
 // encoder, texts and named fields.
 #include <iterator>
 
 #include "categories/cat015/item_fields.h"
-#include "categories/cat015/packed.h"
+#include "items/packed.h"
 #include "kovrel/cat015.h"
 
 namespace {

@@ -1,10 +1,11 @@
 // CAT016's own items: the reporting period, the transmitter/receiver pairs,
 // the height of the system reference point and the properties of every
-// transmitter and receiver. Each is one packed layout (categories/cat015/
-// packed.h) that gives its decoder, encoder, texts and named fields.
+// transmitter and receiver.
+// Each is one packed layout (items/packed.h) that gives its decoder,
+// encoder, texts and named fields.
 #include <iterator>
 
-#include "categories/cat015/packed.h"
+#include "items/packed.h"
 #include "categories/cat016/item_fields.h"
 #include "kovrel/cat016.h"
 

@@ -1,10 +1,11 @@
 // CAT019's own items: the system and tracking processor status, the remote
 // sensors and reference transponders, and the height and undulation of the
-// system reference point. Each is one packed layout (categories/cat015/
-// packed.h) that gives its decoder, encoder, texts and named fields.
+// system reference point.
+// Each is one packed layout (items/packed.h) that gives its decoder,
+// encoder, texts and named fields.
 #include <iterator>
 
-#include "categories/cat015/packed.h"
+#include "items/packed.h"
 #include "categories/cat019/item_fields.h"
 #include "kovrel/cat019.h"
 

@@ -1,5 +1,5 @@
 // Packed bit layouts: the one reader, writer and printer of element tables.
-#include "categories/cat015/packed.h"
+#include "items/packed.h"
 
 #include <cmath>
 #include <cstring>
