@@ -8,6 +8,7 @@
 #pragma once
 
 #include "kovrel/datarecord.h"
+#include "record/record_access.h"
 
 namespace kovrel::access {
 
@@ -16,6 +17,15 @@ void set_value(AstRecordValue *out, bool ok, double value);
 
 // A Cartesian position in metres.
 void set_cartesian(AstRecordCartesian *out, double x, double y);
+
+// The position of the first item id, decoded into T whose x and y are
+// metres (through decode when given, else the item's structured decode).
+template <typename T, typename... Decode>
+void cartesian_of(AstRecordCartesian *out, const AstDataRecord *record, AstItemId id, Decode... decode) {
+    clear(out);
+    T position;
+    if (decode_first(&position, record, id, decode...)) set_cartesian(out, position.x, position.y);
+}
 
 void sacsic_of(AstDataSourceIdentifier *out, const AstDataRecord *record, AstItemId id);
 

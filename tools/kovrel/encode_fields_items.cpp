@@ -22,6 +22,8 @@
 // so that decoded records encode again: those come from items that carry
 // more than the field, given as items.
 #include <algorithm>
+#include <array>
+#include <iterator>
 #include <cstddef>
 #include <cstring>
 
@@ -45,24 +47,21 @@ constexpr const char *kShown[] = {"sac",      "sic",  "tod", "msgtype", "track",
                                   "sel_alt",  "callsign", "icao", "lat", "lon", "rho", "theta",
                                   "x",        "y",    "speed", "heading", "vx", "vy", "vrate"};
 
-constexpr Mapping k010[] = {
-    {"sac", 10010, "sac", Conv::Whole},       {"sic", 10010, "sic", Conv::Whole},
-    {"tod", 10140, "tod", Conv::Seconds},     {"track", 10161, "trn", Conv::Whole},
-    {"mode3a", 10060, "mode3a", Conv::Octal}, {"fl", 10090, "fl", Conv::FeetToFl},
-    {"icao", 10220, "aa", Conv::Hex},         {"callsign", 10245, "tid", Conv::Callsign},
-    {"lat", 10041, "lat", Conv::Real},        {"lon", 10041, "lon", Conv::Real},
-    {"x", 10042, "x", Conv::Real},            {"y", 10042, "y", Conv::Real},
-    {"vx", 10202, "vx", Conv::Real},          {"vy", 10202, "vy", Conv::Real},
-};
-constexpr Mapping k020[] = {
-    {"sac", 20010, "sac", Conv::Whole},       {"sic", 20010, "sic", Conv::Whole},
-    {"tod", 20140, "tod", Conv::Seconds},     {"track", 20161, "trn", Conv::Whole},
-    {"mode3a", 20070, "mode3a", Conv::Octal}, {"fl", 20090, "fl", Conv::FeetToFl},
-    {"icao", 20220, "aa", Conv::Hex},         {"callsign", 20245, "tid", Conv::Callsign},
-    {"lat", 20041, "lat", Conv::Real},        {"lon", 20041, "lon", Conv::Real},
-    {"x", 20042, "x", Conv::Real},            {"y", 20042, "y", Conv::Real},
-    {"vx", 20202, "vx", Conv::Real},          {"vy", 20202, "vy", Conv::Real},
-};
+// The target report fields of CAT010 and CAT020, whose items share their
+// numbers but for the Mode 3/A code (I010/060, I020/070).
+constexpr std::array<Mapping, 14> target_report(AstItemId base, AstItemId mode3a) {
+    return {{
+        {"sac", base + 10, "sac", Conv::Whole},        {"sic", base + 10, "sic", Conv::Whole},
+        {"tod", base + 140, "tod", Conv::Seconds},     {"track", base + 161, "trn", Conv::Whole},
+        {"mode3a", base + mode3a, "mode3a", Conv::Octal}, {"fl", base + 90, "fl", Conv::FeetToFl},
+        {"icao", base + 220, "aa", Conv::Hex},         {"callsign", base + 245, "tid", Conv::Callsign},
+        {"lat", base + 41, "lat", Conv::Real},         {"lon", base + 41, "lon", Conv::Real},
+        {"x", base + 42, "x", Conv::Real},             {"y", base + 42, "y", Conv::Real},
+        {"vx", base + 202, "vx", Conv::Real},          {"vy", base + 202, "vy", Conv::Real},
+    }};
+}
+constexpr auto k010 = target_report(10000, 60);
+constexpr auto k020 = target_report(20000, 70);
 constexpr Mapping k008[] = {
     {"sac", 8010, "sac", Conv::Whole}, {"sic", 8010, "sic", Conv::Whole}, {"tod", 8090, "tod", Conv::Seconds}};
 constexpr Mapping k015[] = {{"sac", 15010, "sac", Conv::Whole},
@@ -120,8 +119,9 @@ const char *failure(int result) {
     }
 }
 
-template <size_t N>
-void read_by_items(const json &f, bool with_items, const Mapping (&table)[N], FieldValues &out) {
+template <typename Table>
+void read_by_items(const json &f, bool with_items, const Table &table, FieldValues &out) {
+    const size_t N = std::size(table);
     for (auto it = f.begin(); it != f.end(); ++it) {
         const std::string &key = it.key();
         if (std::none_of(std::begin(kShown), std::end(kShown), [&](const char *k) { return key == k; }))
@@ -137,8 +137,9 @@ void read_by_items(const json &f, bool with_items, const Mapping (&table)[N], Fi
     // Items in the order of their first mapping; each one structure.
     for (size_t i = 0; i < N; ++i) {
         const AstItemId id = table[i].id;
-        if (std::any_of(table, table + i, [&](const Mapping &m) { return m.id == id; })) continue;
-        if (std::none_of(table + i, table + N, [&](const Mapping &m) { return m.id == id && written(m); }))
+        if (std::any_of(std::begin(table), std::begin(table) + i, [&](const Mapping &m) { return m.id == id; }))
+            continue;
+        if (std::none_of(std::begin(table) + i, std::end(table), [&](const Mapping &m) { return m.id == id && written(m); }))
             continue;
         const size_t size = ast_dataitem_fields_storage_size(id);
         auto storage = std::make_shared<std::vector<std::max_align_t>>(size / sizeof(std::max_align_t) + 1);

@@ -126,11 +126,7 @@ KOVREL_API void ast_datarecord_010_get_vrate(AstVerticalRate *out, const AstData
 }
 
 KOVREL_API void ast_datarecord_010_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record) {
-    if (!out) return;
-    clear(out);
-    AstItem010_042 position;
-    if (decode_first(&position, record, 10042, ast_dataitem_010_042_decode))
-        set_cartesian(out, position.x, position.y);
+    if (out) cartesian_of<AstItem010_042>(out, record, 10042, ast_dataitem_010_042_decode);
 }
 
 }  // extern "C"

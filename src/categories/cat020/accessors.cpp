@@ -92,10 +92,7 @@ KOVREL_API void ast_datarecord_020_get_vrate(AstVerticalRate *out, const AstData
 }
 
 KOVREL_API void ast_datarecord_020_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record) {
-    if (!out) return;
-    clear(out);
-    AstPositionCartesian position;
-    if (decode_first(&position, record, 20042)) set_cartesian(out, position.x, position.y);
+    if (out) cartesian_of<AstPositionCartesian>(out, record, 20042);
 }
 
 }  // extern "C"

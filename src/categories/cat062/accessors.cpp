@@ -171,10 +171,7 @@ KOVREL_API void ast_datarecord_062_get_vrate(AstVerticalRate *out, const AstData
 }
 
 KOVREL_API void ast_datarecord_062_get_cartesiancoord(AstRecordCartesian *out, const AstDataRecord *record) {
-    if (!out) return;
-    clear(out);
-    AstPositionCartesian position;
-    if (decode_first(&position, record, 62100)) set_cartesian(out, position.x, position.y);
+    if (out) cartesian_of<AstPositionCartesian>(out, record, 62100);
 }
 
 }  // extern "C"
