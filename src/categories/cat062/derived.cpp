@@ -432,31 +432,7 @@ void write_detail(TextWriter &w, const T &o, uint32_t number) {
 
 }  // namespace
 
-namespace kovrel::cat062 {
-
-void summary_380(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {
-    subfield_text<T, ast_dataitem_062_380_init, decode_subfield, write_summary>(kId, buffer, size, span, subfield_id);
-}
-
-void detail_380(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {
-    subfield_text<T, ast_dataitem_062_380_init, decode_subfield, write_detail>(kId, buffer, size, span, subfield_id);
-}
-
-}  // namespace kovrel::cat062
-
-extern "C" {
-
-KOVREL_API void ast_dataitem_062_380_init(AstItem062_380 *out) {
-    if (out) *out = AstItem062_380{};
-}
-
-KOVREL_API void ast_dataitem_062_380_decode(AstItem062_380 *out, const AstDataItem *item) {
-    decode_compound<T, ast_dataitem_062_380_init, decode_subfield>(out, item, kId);
-}
-
-}  // extern "C"
-
-KOVREL_DECODE_EX(062_380, AstItem062_380, ast_dataitem_062_380_decode)
+KOVREL_CAT062_COMPOUND(380, AstItem062_380, kId, decode_subfield, write_summary, write_detail)
 
 namespace kovrel::fields {
 

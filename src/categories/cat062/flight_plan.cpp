@@ -247,31 +247,7 @@ void write_detail(TextWriter &w, const T &o, uint32_t number) {
 
 }  // namespace
 
-namespace kovrel::cat062 {
-
-void summary_390(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {
-    subfield_text<T, ast_dataitem_062_390_init, decode_subfield, write_summary>(kId, buffer, size, span, subfield_id);
-}
-
-void detail_390(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {
-    subfield_text<T, ast_dataitem_062_390_init, decode_subfield, write_detail>(kId, buffer, size, span, subfield_id);
-}
-
-}  // namespace kovrel::cat062
-
-extern "C" {
-
-KOVREL_API void ast_dataitem_062_390_init(AstItem062_390 *out) {
-    if (out) *out = AstItem062_390{};
-}
-
-KOVREL_API void ast_dataitem_062_390_decode(AstItem062_390 *out, const AstDataItem *item) {
-    decode_compound<T, ast_dataitem_062_390_init, decode_subfield>(out, item, kId);
-}
-
-}  // extern "C"
-
-KOVREL_DECODE_EX(062_390, AstItem062_390, ast_dataitem_062_390_decode)
+KOVREL_CAT062_COMPOUND(390, AstItem062_390, kId, decode_subfield, write_summary, write_detail)
 
 namespace kovrel::fields {
 

@@ -163,31 +163,7 @@ void write_detail(TextWriter &w, const T &o, uint32_t number) {
 
 }  // namespace
 
-namespace kovrel::cat062 {
-
-void summary_110(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {
-    subfield_text<T, ast_dataitem_062_110_init, decode_subfield, write_summary>(kId, buffer, size, span, subfield_id);
-}
-
-void detail_110(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {
-    subfield_text<T, ast_dataitem_062_110_init, decode_subfield, write_detail>(kId, buffer, size, span, subfield_id);
-}
-
-}  // namespace kovrel::cat062
-
-extern "C" {
-
-KOVREL_API void ast_dataitem_062_110_init(AstItem062_110 *out) {
-    if (out) *out = AstItem062_110{};
-}
-
-KOVREL_API void ast_dataitem_062_110_decode(AstItem062_110 *out, const AstDataItem *item) {
-    decode_compound<T, ast_dataitem_062_110_init, decode_subfield>(out, item, kId);
-}
-
-}  // extern "C"
-
-KOVREL_DECODE_EX(062_110, AstItem062_110, ast_dataitem_062_110_decode)
+KOVREL_CAT062_COMPOUND(110, AstItem062_110, kId, decode_subfield, write_summary, write_detail)
 
 namespace kovrel::fields {
 

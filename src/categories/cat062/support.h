@@ -142,3 +142,26 @@ const char *text_of(const char *const (&names)[N], uint32_t code) {
 }
 
 }  // namespace kovrel::cat062
+
+// What every compound item of the category defines the same way over its
+// structure T (identifier ID, subfield decoder DECODE, subfield writers
+// SUMMARY and DETAIL): the subfield texts kovrel::cat062::summary_NNN and
+// detail_NNN, and the exported _init (all zeros), _decode and _decode_ex.
+#define KOVREL_CAT062_COMPOUND(NNN, T, ID, DECODE, SUMMARY, DETAIL)                                               \
+    namespace kovrel::cat062 {                                                                                    \
+    void summary_##NNN(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {                \
+        subfield_text<T, ast_dataitem_062_##NNN##_init, DECODE, SUMMARY>(ID, buffer, size, span, subfield_id);    \
+    }                                                                                                             \
+    void detail_##NNN(char *buffer, size_t size, const AstSubfield *span, uint32_t subfield_id) {                 \
+        subfield_text<T, ast_dataitem_062_##NNN##_init, DECODE, DETAIL>(ID, buffer, size, span, subfield_id);     \
+    }                                                                                                             \
+    }                                                                                                             \
+    extern "C" {                                                                                                  \
+    KOVREL_API void ast_dataitem_062_##NNN##_init(T *out) {                                                       \
+        if (out) *out = T{};                                                                                      \
+    }                                                                                                             \
+    KOVREL_API void ast_dataitem_062_##NNN##_decode(T *out, const AstDataItem *item) {                            \
+        kovrel::cat062::decode_compound<T, ast_dataitem_062_##NNN##_init, DECODE>(out, item, ID);                 \
+    }                                                                                                             \
+    }                                                                                                             \
+    KOVREL_DECODE_EX(062_##NNN, T, ast_dataitem_062_##NNN##_decode)
