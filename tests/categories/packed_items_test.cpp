@@ -2,43 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "support/field_leaves.h"
+
 namespace kovrel_test {
 
 namespace {
 
 AstDataItem span(const Wire &o, AstItemId id) { return AstDataItem{o.data(), o.size(), id, 1}; }
-
-struct Leaf {
-    std::string path;
-    AstField value;
-    std::string text;
-};
-
-struct Collector {
-    std::vector<std::string> groups;
-    std::vector<Leaf> leaves;
-    int in_array = 0;
-};
-
-int collect(void *context, const AstField *f) {
-    auto &c = *static_cast<Collector *>(context);
-    switch (f->kind) {
-    case AST_FIELD_ARRAY_BEGIN: ++c.in_array; return 1;
-    case AST_FIELD_ARRAY_END: --c.in_array; return 1;
-    case AST_FIELD_GROUP_BEGIN:
-        if (c.in_array == 0) c.groups.push_back(f->name ? f->name : "");
-        return 1;
-    case AST_FIELD_GROUP_END:
-        if (c.in_array == 0) c.groups.pop_back();
-        return 1;
-    default: break;
-    }
-    if (c.in_array > 0 || f->kind == AST_FIELD_OCTETS) return 1;
-    std::string path;
-    for (const std::string &g : c.groups) path += g + ".";
-    c.leaves.push_back(Leaf{path + f->name, *f, f->text ? std::string(f->text, f->length) : std::string()});
-    return 1;
-}
 
 }  // namespace
 
@@ -80,25 +50,10 @@ Wire through_structure(AstItemId id, const Wire &wire) {
 }
 
 Wire through_fields(AstItemId id, const Wire &wire) {
-    Collector c;
-    const AstDataItem item = span(wire, id);
-    EXPECT_EQ(ast_dataitem_walk_fields(&item, collect, &c), AST_FIELDS_DONE) << id;
-    std::vector<unsigned char> storage(65536);
-    const size_t size = ast_dataitem_fields_storage_size(id);
-    EXPECT_TRUE(size > 0 && size <= storage.size()) << id;
-    EXPECT_EQ(ast_dataitem_fields_init(storage.data(), size, id), 1) << id;
-    for (Leaf &leaf : c.leaves) {
-        leaf.value.text = leaf.text.data();
-        const int r = ast_dataitem_fields_set(storage.data(), size, id, leaf.path.c_str(), &leaf.value);
-        EXPECT_EQ(r, AST_FIELD_SET_OK) << id << " " << leaf.path;
-        if (r != AST_FIELD_SET_OK) return {};
-    }
-    std::vector<uint8_t> out(wire.size() + 16);
-    AstDataItem written{};
-    const AstDataItemValue value{1, id, storage.data()};
-    ast_dataitem_encode(&written, out.data(), out.size(), &value);
-    if (written.valid != 1) return {};
-    return Wire(out.begin(), out.begin() + static_cast<std::ptrdiff_t>(written.length));
+    std::string failed;
+    const Wire out = encode_through_fields(span(wire, id), &failed);
+    EXPECT_EQ(failed, "") << id;
+    return out;
 }
 
 void expect_items(const std::vector<ItemCase> &cases, bool encodes) {
@@ -108,9 +63,63 @@ void expect_items(const std::vector<ItemCase> &cases, bool encodes) {
         if (c.json) EXPECT_EQ(json_of(c.id, c.wire), c.json);
         if (!encodes) continue;
         EXPECT_EQ(through_structure(c.id, c.wire), c.wire);
-        bool has_array = c.json && std::string(c.json).find('[') != std::string::npos;
-        if (!has_array) EXPECT_EQ(through_fields(c.id, c.wire), c.wire);
+        EXPECT_EQ(through_fields(c.id, c.wire), c.wire);
     }
+}
+
+AstField unsigned_value(uint64_t u) {
+    AstField f{};
+    f.kind = AST_FIELD_UNSIGNED;
+    f.u = u;
+    return f;
+}
+
+AstField signed_value(int64_t i) {
+    AstField f{};
+    f.kind = AST_FIELD_SIGNED;
+    f.i = i;
+    return f;
+}
+
+AstField real_value(double real) {
+    AstField f{};
+    f.kind = AST_FIELD_REAL;
+    f.real = real;
+    return f;
+}
+
+AstField flag_value(bool set) {
+    AstField f{};
+    f.kind = AST_FIELD_FLAG;
+    f.u = set ? 1 : 0;
+    return f;
+}
+
+void expect_sets(const std::vector<SetCase> &cases) {
+    for (const SetCase &c : cases) {
+        SCOPED_TRACE(testing::Message() << "item " << c.id << " set " << c.path);
+        const AstDataItem item = span(c.before, c.id);
+        std::vector<unsigned char> storage(65536);
+        AstDataItemValue value;
+        ast_dataitem_decode(&value, storage.data(), storage.size(), &item);
+        ASSERT_EQ(value.valid, 1);
+        const size_t size = ast_dataitem_fields_storage_size(c.id);
+        EXPECT_EQ(ast_dataitem_fields_set(value.value, size, c.id, c.path, &c.value), c.result);
+        std::vector<uint8_t> out(c.after.size() + 16);
+        AstDataItem written{};
+        ast_dataitem_encode(&written, out.data(), out.size(), &value);
+        ASSERT_EQ(written.valid, 1);
+        EXPECT_EQ(Wire(out.begin(), out.begin() + static_cast<std::ptrdiff_t>(written.length)), c.after);
+    }
+}
+
+Wire repeated(size_t rep, Wire (*element)(size_t index)) {
+    Wire out{static_cast<uint8_t>(rep)};
+    for (size_t i = 0; i < rep; ++i) {
+        const Wire e = element(i);
+        out.insert(out.end(), e.begin(), e.end());
+    }
+    return out;
 }
 
 }  // namespace kovrel_test
