@@ -223,6 +223,109 @@ TEST(Cat008Items, PictureScaleAndBadSpans) {
     EXPECT_EQ(q.find("TST"), std::string::npos) << q;  // the second octet is absent
 }
 
+// ---- Repetitions: empty, full, and set element by element -------------------
+
+namespace {
+
+using kovrel_test::real_value;
+using kovrel_test::repeated;
+using kovrel_test::unsigned_value;
+
+constexpr size_t kFull = AST_ITEM008_VECTOR_MAX;
+
+// Element i of a full list; the last one holds the widest values its fields
+// take (the signed ones at their most negative, the others all ones).
+Wire polar(size_t i) { return i + 1 == kFull ? Wire{0xFF, 0xFF, 0xFF, 0xFF} : Wire{uint8_t(i), uint8_t(i + 1), 0x12, uint8_t(i)}; }
+Wire cartesian(size_t i) { return i + 1 == kFull ? Wire{0x80, 0x80, 0xFF} : Wire{uint8_t(i), uint8_t(~i), uint8_t(i)}; }
+Wire segment(size_t i) { return i + 1 == kFull ? Wire{0x80, 0x7F, 0x80, 0x7F} : Wire{uint8_t(i), 1, 2, uint8_t(~i)}; }
+Wire point(size_t i) { return i + 1 == kFull ? Wire{0x80, 0x80} : Wire{uint8_t(i), uint8_t(i * 3)}; }
+Wire zeros3(size_t) { return {0, 0, 0}; }
+
+// As many status words as the structure keeps, each at 127.
+Wire full_status() {
+    Wire w(AST_ITEM008_110_MAX, 0xFF);
+    w.back() = 0xFE;
+    return w;
+}
+
+const char *full_status_json() {
+    static std::string json;
+    json = R"({"status":[127)";
+    for (size_t i = 1; i < AST_ITEM008_110_MAX; ++i) json += ",127";
+    json += "]}";
+    return json.c_str();
+}
+
+}  // namespace
+
+TEST(Cat008Items, RepetitionsRoundTripThroughTheFields) {
+    expect_items({
+        {8034, {0x00}, "REP:0", R"({"vectors":[]})"},
+        {8036, {0x00}, "REP:0", R"({"vectors":[]})"},
+        {8038, {0x00}, "REP:0", R"({"vectors":[]})"},
+        {8050, {0x00}, "REP:0", R"({"points":[]})"},
+        {8034, {0x02, 0x00, 0x01, 0x00, 0x01, 0xFF, 0xFF, 0xFF, 0xFF}, "REP:2 STR:0.000 ENDR:0.016 AZ:0.0055 STR:3.984 ENDR:3.984 AZ:359.9945",
+         R"({"vectors":[{"str":0,"endr":0.015625,"az":0.0054931640625},{"str":3.984375,"endr":3.984375,"az":359.9945068359375}]})"},
+        {8038, {0x02, 0x7F, 0x80, 0x01, 0xFF, 0x80, 0x7F, 0x80, 0x7F},
+         "REP:2 X1:1.984 Y1:-2.000 X2:0.016 Y2:-0.016 X1:-2.000 Y1:1.984 X2:-2.000 Y2:1.984",
+         R"({"vectors":[{"x1":1.984375,"y1":-2,"x2":0.015625,"y2":-0.015625},{"x1":-2,"y1":1.984375,"x2":-2,"y2":1.984375}]})"},
+        {8110, full_status(), nullptr, full_status_json()},
+    });
+    // The most the count octet announces, the last element at its widest.
+    const struct {
+        AstItemId id;
+        Wire wire;
+        const char *last;  // the JSON of the last element
+    } full[] = {
+        {8034, repeated(kFull, polar), R"({"str":3.984375,"endr":3.984375,"az":359.9945068359375}]})"},
+        {8036, repeated(kFull, cartesian), R"({"x":-2,"y":-2,"length":3.984375}]})"},
+        {8038, repeated(kFull, segment), R"({"x1":-2,"y1":1.984375,"x2":-2,"y2":1.984375}]})"},
+        {8050, repeated(kFull, point), R"({"x1":-2,"y1":-2}]})"},
+    };
+    for (const auto &f : full) {
+        SCOPED_TRACE(f.id);
+        ASSERT_EQ(f.wire[0], 0xFF);
+        EXPECT_EQ(kovrel_test::summary_of(f.id, f.wire).rfind("REP:255 ", 0), 0u);
+        const std::string json = kovrel_test::json_of(f.id, f.wire);
+        ASSERT_GT(json.size(), std::string(f.last).size());
+        EXPECT_EQ(json.substr(json.size() - std::string(f.last).size()), f.last);
+        EXPECT_EQ(kovrel_test::through_structure(f.id, f.wire), f.wire);
+        EXPECT_EQ(kovrel_test::through_fields(f.id, f.wire), f.wire);
+    }
+}
+
+TEST(Cat008Items, ElementsSetByName) {
+    // Past the end the count grows and the elements between stay zero;
+    // past the array, and values beyond a field's bits, are refused.
+    Wire full_cartesian = repeated(kFull, zeros3);
+    full_cartesian[kFull * 3 - 2] = 0x40;  // the last vector's x
+    kovrel_test::expect_sets({
+        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].x", real_value(1.984375), AST_FIELD_SET_OK, {0x01, 0x7F, 0xC0, 0x10}},
+        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].y", real_value(-2.0), AST_FIELD_SET_OK, {0x01, 0x40, 0x80, 0x10}},
+        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].x", real_value(2.0), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x40, 0xC0, 0x10}},
+        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].y", real_value(-2.015625), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x40, 0xC0, 0x10}},
+        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].length", real_value(4.0), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x40, 0xC0, 0x10}},
+        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].length", real_value(-0.015625), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x40, 0xC0, 0x10}},
+        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[2].y", real_value(0.5), AST_FIELD_SET_OK,
+         {0x03, 0x40, 0xC0, 0x10, 0x00, 0x00, 0x00, 0x00, 0x20, 0x00}},
+        {8036, {0x00}, "vectors[254].x", real_value(1.0), AST_FIELD_SET_OK, full_cartesian},
+        {8036, {0x00}, "vectors[255].x", real_value(1.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {8034, {0x01, 0x40, 0x80, 0x20, 0x00}, "vectors[0].az", real_value(359.9945068359375), AST_FIELD_SET_OK,
+         {0x01, 0x40, 0x80, 0xFF, 0xFF}},
+        {8034, {0x01, 0x40, 0x80, 0x20, 0x00}, "vectors[0].endr", real_value(4.0), AST_FIELD_SET_OUT_OF_RANGE,
+         {0x01, 0x40, 0x80, 0x20, 0x00}},
+        {8034, {0x00}, "vectors[1].str", real_value(0.5), AST_FIELD_SET_OK, {0x02, 0, 0, 0, 0, 0x20, 0, 0, 0}},
+        {8038, {0x00}, "vectors[0].y2", real_value(-0.015625), AST_FIELD_SET_OK, {0x01, 0, 0, 0, 0xFF}},
+        {8038, {0x00}, "vectors[0].x2", real_value(2.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {8050, {0x01, 0x20, 0xE0}, "points[1].y1", real_value(-2.0), AST_FIELD_SET_OK, {0x02, 0x20, 0xE0, 0x00, 0x80}},
+        {8050, {0x01, 0x20, 0xE0}, "points[0].x1", real_value(-3.0), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x20, 0xE0}},
+        {8110, {0x00}, "status[3]", unsigned_value(5), AST_FIELD_SET_OK, {0x01, 0x01, 0x01, 0x0A}},
+        {8110, {0x00}, "status[0]", unsigned_value(127), AST_FIELD_SET_OK, {0xFE}},
+        {8110, {0x00}, "status[0]", unsigned_value(128), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {8110, {0x00}, "status[64]", unsigned_value(1), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+    });
+}
+
 TEST(Cat008Record, DisassembleAssembleAndAccessors) {
     const Wire wire = {0xFF, 0xF8,                    // FRNs 1-12
                        0x00, 0x08,                    // I008/010
