@@ -330,6 +330,77 @@ TEST(Cat015Items, CompoundEdges) {
     EXPECT_EQ(out.valid, 0);
 }
 
+// ---- Repetitions: empty, full, and set element by element -------------------
+
+namespace {
+
+using kovrel_test::real_value;
+using kovrel_test::repeated;
+using kovrel_test::unsigned_value;
+
+// Element i of a full list; the last one holds the widest values.
+Wire classification(size_t i) { return i + 1 == AST_ITEM015_300_MAX ? Wire{0xFF, 0xFF} : Wire{uint8_t(i), uint8_t(i)}; }
+Wire association(size_t i) {
+    return i + 1 == AST_ITEM015_480_MAX ? Wire{0xFF, 0xFF, 0xFF, 0xFF, 0xFF} : Wire{0, uint8_t(i), 0, 1, uint8_t(i)};
+}
+Wire contour(size_t i) {
+    return i + 1 == AST_ITEM015_631_MAX ? Wire{0xFF, 0xFF, 0x80, 0x00, 0xFF, 0xFF, 0xFF, 0xFF}
+                                        : Wire{uint8_t(i), 0, 0x7F, 0xFF, 0, uint8_t(i), 0, 0};
+}
+
+// As many warnings as the structure keeps, the last at 127.
+Wire full_warnings() {
+    Wire w(AST_ITEM015_030_MAX, 0x03);
+    w.back() = 0xFE;
+    return w;
+}
+
+}  // namespace
+
+TEST(Cat015Items, RepetitionsRoundTripThroughTheFields) {
+    expect_items({
+        {15300, {0x00}, "REP:0", R"({"classes":[]})"},
+        {15480, {0x00}, "REP:0", R"({"associations":[]})"},
+        {15631, {0x00}, "REP:0", R"({"points":[]})"},
+        {15300, {0x02, 0x00, 0x00, 0xFF, 0xFF}, "REP:2 CLS:0 PRB:0 CLS:511 PRB:127",
+         R"({"classes":[{"cls":0,"prb":0},{"cls":511,"prb":127}]})"},
+        {15030, {0x03, 0x05, 0xFE}, "WE:01 02 7F", R"({"codes":[1,2,127]})"},
+    });
+    kovrel_test::expect_long({
+        {15030, full_warnings(), "WE:01 01 ", R"(1,1,127]})"},
+        {15300, repeated(AST_ITEM015_300_MAX, classification), "REP:255 ", R"({"cls":511,"prb":127}]})"},
+        {15480, repeated(AST_ITEM015_480_MAX, association), "REP:255 ", R"({"pid":65535,"on":16777215}]})"},
+        {15631, repeated(AST_ITEM015_631_MAX, contour), "REP:255 ",
+         R"({"azcon":359.9945068359375,"elcon":-90,"rgconstop":9999.847412109375,"rgconstart":9999.847412109375}]})"},
+    });
+}
+
+TEST(Cat015Items, ElementsSetByName) {
+    // Past the end the count grows and the elements between stay zero;
+    // past the array, and values beyond a field's bits, are refused.
+    const Wire cls = {0x01, 0x80, 0xE4};  // class 257 at 100 %
+    kovrel_test::expect_sets({
+        {15300, cls, "classes[0].cls", unsigned_value(511), AST_FIELD_SET_OK, {0x01, 0xFF, 0xE4}},
+        {15300, cls, "classes[0].cls", unsigned_value(512), AST_FIELD_SET_OUT_OF_RANGE, cls},
+        {15300, cls, "classes[0].prb", unsigned_value(127), AST_FIELD_SET_OK, {0x01, 0x80, 0xFF}},
+        {15300, cls, "classes[0].prb", unsigned_value(128), AST_FIELD_SET_OUT_OF_RANGE, cls},
+        {15300, cls, "classes[2].prb", unsigned_value(1), AST_FIELD_SET_OK, {0x03, 0x80, 0xE4, 0, 0, 0, 0x01}},
+        {15300, cls, "classes[255].prb", unsigned_value(1), AST_FIELD_SET_OUT_OF_RANGE, cls},
+        {15480, {0x00}, "associations[0].on", unsigned_value(16777215), AST_FIELD_SET_OK, {0x01, 0, 0, 0xFF, 0xFF, 0xFF}},
+        {15480, {0x00}, "associations[0].on", unsigned_value(16777216), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {15480, {0x00}, "associations[1].pid", unsigned_value(65535), AST_FIELD_SET_OK,
+         {0x02, 0, 0, 0, 0, 0, 0xFF, 0xFF, 0, 0, 0}},
+        {15480, {0x00}, "associations[0].pid", unsigned_value(65536), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {15631, {0x00}, "points[0].elcon", real_value(-90.0), AST_FIELD_SET_OK, {0x01, 0, 0, 0x80, 0, 0, 0, 0, 0}},
+        {15631, {0x00}, "points[0].elcon", real_value(90.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {15631, {0x00}, "points[0].rgconstart", real_value(10000.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {15631, {0x00}, "points[0].rgconstop", real_value(-1.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {15030, {0x40}, "codes[2]", unsigned_value(127), AST_FIELD_SET_OK, {0x41, 0x01, 0xFE}},
+        {15030, {0x40}, "codes[0]", unsigned_value(128), AST_FIELD_SET_OUT_OF_RANGE, {0x40}},
+        {15030, {0x40}, "codes[64]", unsigned_value(1), AST_FIELD_SET_OUT_OF_RANGE, {0x40}},
+    });
+}
+
 TEST(Cat015Record, DisassembleAssembleAndAccessors) {
     const Wire wire = {0xC7, 0x07, 0xA0,                                   // FSPEC
                        0x00, 0x0F,                                         // I015/010

@@ -58,4 +58,15 @@ void expect_sets(const std::vector<SetCase> &cases);
 // octets made by `element(index)`.
 Wire repeated(size_t rep, Wire (*element)(size_t index));
 
+// A long list: its summary starts with `summary_start`, its JSON ends with
+// `json_end` (the last element), and both ways back give the same octets.
+struct LongCase {
+    AstItemId id;
+    Wire wire;
+    const char *summary_start;
+    const char *json_end;
+};
+
+void expect_long(const std::vector<LongCase> &cases);
+
 }  // namespace kovrel_test

@@ -122,4 +122,17 @@ Wire repeated(size_t rep, Wire (*element)(size_t index)) {
     return out;
 }
 
+void expect_long(const std::vector<LongCase> &cases) {
+    for (const LongCase &c : cases) {
+        SCOPED_TRACE(testing::Message() << "item " << c.id << " of " << c.wire.size() << " octets");
+        EXPECT_EQ(summary_of(c.id, c.wire).rfind(c.summary_start, 0), 0u);
+        const std::string json = json_of(c.id, c.wire);
+        const std::string end = c.json_end;
+        ASSERT_GT(json.size(), end.size());
+        EXPECT_EQ(json.substr(json.size() - end.size()), end);
+        EXPECT_EQ(through_structure(c.id, c.wire), c.wire);
+        EXPECT_EQ(through_fields(c.id, c.wire), c.wire);
+    }
+}
+
 }  // namespace kovrel_test
