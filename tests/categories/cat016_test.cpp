@@ -161,6 +161,76 @@ TEST(Cat016Items, LimitsAndBadSpans) {
     EXPECT_EQ(out.length, 22u);
 }
 
+// ---- Repetitions: empty, full, and set element by element -------------------
+
+namespace {
+
+using kovrel_test::real_value;
+using kovrel_test::repeated;
+using kovrel_test::unsigned_value;
+
+// Element i of a full list; the last one holds the widest values (the
+// signed ones at their most negative where that is exact in degrees).
+Wire pair(size_t i) { return i + 1 == AST_ITEM016_300_MAX ? Wire(6, 0xFF) : Wire{0, uint8_t(i), 1, 0, 0, uint8_t(i)}; }
+Wire transmitter(size_t i) {
+    if (i + 1 == AST_ITEM016_410_MAX)
+        return {0xFF, 0xFF, 0x80, 0, 0, 0, 0x80, 0, 0, 0, 0x80, 0x00, 0x7F, 0xFF, 0xFF, 0xFF, 0x0F, 0xFF, 0xFF, 0xFF, 0xFF};
+    Wire w(21, 0);
+    w[1] = uint8_t(i);
+    w[20] = uint8_t(i);
+    return w;
+}
+Wire receiver(size_t i) {
+    if (i + 1 == AST_ITEM016_420_MAX) return {0xFF, 0xFF, 0x80, 0, 0, 0, 0x80, 0, 0, 0, 0x7F, 0xFF};
+    Wire w(12, 0);
+    w[1] = uint8_t(i);
+    return w;
+}
+Wire zeros21(size_t) { return Wire(21, 0); }
+Wire zeros12(size_t) { return Wire(12, 0); }
+
+}  // namespace
+
+TEST(Cat016Items, RepetitionsRoundTripThroughTheFields) {
+    expect_items({
+        {16300, {0x00}, "REP:0", R"({"pairs":[]})"},
+        {16410, {0x00}, "REP:0", R"({"tx":[]})"},
+    });
+    // As many as the structures keep: 255 pairs, 32 transmitters, 64 receivers.
+    kovrel_test::expect_long({
+        {16300, repeated(AST_ITEM016_300_MAX, pair), "REP:255 ", R"({"pid":65535,"tid":65535,"rid":65535}]})"},
+        {16410, repeated(AST_ITEM016_410_MAX, transmitter), "REP:32 ",
+         R"({"tid":65535,"lat":-180,"lon":-180,"alt":-8192,"tto":4294967294,"ato":1048575,"pci":65535}]})"},
+        {16420, repeated(AST_ITEM016_420_MAX, receiver), "REP:64 ", R"({"rid":65535,"lat":-180,"lon":-180,"alt":8191.75}]})"},
+    });
+}
+
+TEST(Cat016Items, ElementsSetByName) {
+    // Past the end the count grows and the elements between stay zero;
+    // past the array, and values beyond a field's bits, are refused.
+    Wire last_tx = repeated(AST_ITEM016_410_MAX, zeros21);
+    last_tx.back() = 0x01;
+    Wire last_rx = repeated(AST_ITEM016_420_MAX, zeros12);
+    last_rx[last_rx.size() - 12] = 0x01;  // the high octet of the last rid
+    Wire one_tx = repeated(1, zeros21);
+    one_tx[17] = 0x0F;
+    one_tx[18] = one_tx[19] = 0xFF;
+    kovrel_test::expect_sets({
+        {16300, {0x00}, "pairs[0].rid", unsigned_value(65535), AST_FIELD_SET_OK, {0x01, 0, 0, 0, 0, 0xFF, 0xFF}},
+        {16300, {0x00}, "pairs[0].rid", unsigned_value(65536), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {16300, {0x00}, "pairs[255].pid", unsigned_value(1), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {16410, {0x00}, "tx[0].ato", real_value(1048575.0), AST_FIELD_SET_OK, one_tx},
+        {16410, {0x00}, "tx[0].ato", real_value(1048576.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {16410, {0x00}, "tx[0].lat", real_value(180.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {16410, {0x00}, "tx[0].tto", real_value(-4294967298.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {16410, {0x00}, "tx[31].pci", unsigned_value(1), AST_FIELD_SET_OK, last_tx},
+        {16410, {0x00}, "tx[32].pci", unsigned_value(1), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {16420, {0x00}, "rx[63].rid", unsigned_value(256), AST_FIELD_SET_OK, last_rx},
+        {16420, {0x00}, "rx[64].rid", unsigned_value(1), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+        {16420, {0x00}, "rx[0].alt", real_value(8192.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+    });
+}
+
 TEST(Cat016Record, DisassembleAssembleAndAccessors) {
     Wire wire = {0xFF, 0xE0, 0x00, 0x10, 0x07, 0x02, 0x00, 0x96, 0x00, 0x3C,
                  0x01, 0x00, 0x01, 0x00, 0x03, 0x00, 0x07,

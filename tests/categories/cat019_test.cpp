@@ -218,6 +218,32 @@ TEST(Cat019Items, EncodersRefuseWhatDoesNotFit) {
     EXPECT_EQ(out.valid, 0);
 }
 
+// ---- Repetitions: empty, full, and set element by element -------------------
+
+namespace {
+
+// Sensor i of a full list; the last one with every bit set.
+Wire sensor(size_t i) { return i + 1 == AST_ITEM019_552_MAX ? Wire{0xFF, 0x7C} : Wire{uint8_t(i), uint8_t(i & 0x7C)}; }
+
+}  // namespace
+
+TEST(Cat019Items, SensorListsRoundTripThroughTheFields) {
+    kovrel_test::expect_long({
+        {19552, kovrel_test::repeated(AST_ITEM019_552_MAX, sensor), "REP:255 ",
+         R"({"rsi":255,"rs1090":1,"tx1030":1,"tx1090":1,"rss":1,"rso":1}]})"},
+    });
+    // Past the end the count grows and the sensors between stay zero;
+    // past the array, and identifiers beyond eight bits, are refused.
+    using kovrel_test::unsigned_value;
+    kovrel_test::expect_sets({
+        {19552, {0x01, 0x07, 0x08}, "rs[0].rsi", unsigned_value(255), AST_FIELD_SET_OK, {0x01, 0xFF, 0x08}},
+        {19552, {0x01, 0x07, 0x08}, "rs[0].rsi", unsigned_value(256), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x07, 0x08}},
+        {19552, {0x00}, "rs[1].rso", kovrel_test::flag_value(true), AST_FIELD_SET_OK, {0x02, 0, 0, 0, 0x04}},
+        {19552, {0x00}, "rs[1].tx1030", kovrel_test::flag_value(true), AST_FIELD_SET_OK, {0x02, 0, 0, 0, 0x20}},
+        {19552, {0x00}, "rs[255].rsi", unsigned_value(1), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
+    });
+}
+
 TEST(Cat019Record, DisassembleAssembleAndAccessors) {
     // I019/010, 000, 140, 550, 551, 552, 553, 600, 610 and 620.
     const Wire wire = {0xFF, 0xE0,                                     // FSPEC: FRNs 1-10
