@@ -106,6 +106,7 @@ Reader reader_for(uint32_t category) {
     case 21: return read_fields_021;
     case 34: return read_fields_034;
     case 48: return read_fields_048;
+    case 62: return read_fields_062;
     default: return nullptr;
     }
 }

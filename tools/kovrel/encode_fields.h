@@ -82,5 +82,6 @@ void read_fields_002(const json &fields, bool with_items, const AstUap &uap, Fie
 void read_fields_021(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 void read_fields_034(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 void read_fields_048(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
+void read_fields_062(const json &fields, bool with_items, const AstUap &uap, FieldValues &out);
 
 }  // namespace kovrel_tool::record_fields

@@ -2,11 +2,11 @@
 // themselves by the same names the decoder shows. Each record field is set,
 // by name, as a field of its item (the item's own scaling applies):
 //
-//   field        CAT010    CAT020    CAT008 / CAT016 / CAT019   CAT015
-//   sac, sic     I010/010  I020/010  I008/010 ...               I015/010
-//   tod          I010/140  I020/140  I008/090, I016/140, I019/140  I015/145
-//   track        I010/161  I020/161                             I015/161
-//   mode3a       I010/060  I020/070
+//   field        CAT010    CAT020    CAT062    CAT008 / CAT016 / CAT019      CAT015
+//   sac, sic     I010/010  I020/010  I062/010  I008/010 ...                  I015/010
+//   tod          I010/140  I020/140  I062/070  I008/090, I016/140, I019/140  I015/145
+//   track        I010/161  I020/161  I062/040                                I015/161
+//   mode3a       I010/060  I020/070  I062/060
 //   fl (feet)    I010/090  I020/090
 //   icao         I010/220  I020/220
 //   callsign     I010/245  I020/245
@@ -20,7 +20,11 @@
 // decoder shows (msgtype, rho, theta, speed, heading, sel_alt, vrate, and
 // what CAT015 reads from its measurement items) is accepted and left out,
 // so that decoded records encode again: those come from items that carry
-// more than the field, given as items.
+// more than the field, given as items. A CAT062 track shows its position,
+// velocity, flight level, callsign, address, selected altitude and vertical
+// rate from items the library does not write (I062/105, 100, 185, 136, 135,
+// 245, 380, 390, 220); speed and heading are worked out from I062/185.
+// Those items come as octets.
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -62,6 +66,10 @@ constexpr std::array<Mapping, 14> target_report(AstItemId base, AstItemId mode3a
 }
 constexpr auto k010 = target_report(10000, 60);
 constexpr auto k020 = target_report(20000, 70);
+constexpr Mapping k062[] = {
+    {"sac", 62010, "sac", Conv::Whole},  {"sic", 62010, "sic", Conv::Whole}, {"tod", 62070, "tod", Conv::Seconds},
+    {"track", 62040, "trn", Conv::Whole}, {"mode3a", 62060, "mode3a", Conv::Octal},
+};
 constexpr Mapping k008[] = {
     {"sac", 8010, "sac", Conv::Whole}, {"sic", 8010, "sic", Conv::Whole}, {"tod", 8090, "tod", Conv::Seconds}};
 constexpr Mapping k015[] = {{"sac", 15010, "sac", Conv::Whole},
@@ -176,6 +184,9 @@ void read_fields_019(const json &f, bool with_items, const AstUap &, FieldValues
 }
 void read_fields_020(const json &f, bool with_items, const AstUap &, FieldValues &out) {
     read_by_items(f, with_items, k020, out);
+}
+void read_fields_062(const json &f, bool with_items, const AstUap &, FieldValues &out) {
+    read_by_items(f, with_items, k062, out);
 }
 
 }  // namespace kovrel_tool::record_fields
