@@ -235,7 +235,9 @@ constexpr size_t kFull = AST_ITEM008_VECTOR_MAX;
 
 // Element i of a full list; the last one holds the widest values its fields
 // take (the signed ones at their most negative, the others all ones).
-Wire polar(size_t i) { return i + 1 == kFull ? Wire{0xFF, 0xFF, 0xFF, 0xFF} : Wire{uint8_t(i), uint8_t(i + 1), 0x12, uint8_t(i)}; }
+Wire polar(size_t i) {
+    return i + 1 == kFull ? Wire{0xFF, 0xFF, 0xFF, 0xFF} : Wire{uint8_t(i), uint8_t(i + 1), 0x12, uint8_t(i)};
+}
 Wire cartesian(size_t i) { return i + 1 == kFull ? Wire{0x80, 0x80, 0xFF} : Wire{uint8_t(i), uint8_t(~i), uint8_t(i)}; }
 Wire segment(size_t i) { return i + 1 == kFull ? Wire{0x80, 0x7F, 0x80, 0x7F} : Wire{uint8_t(i), 1, 2, uint8_t(~i)}; }
 Wire point(size_t i) { return i + 1 == kFull ? Wire{0x80, 0x80} : Wire{uint8_t(i), uint8_t(i * 3)}; }
@@ -285,14 +287,15 @@ TEST(Cat008Items, ElementsSetByName) {
     // past the array, and values beyond a field's bits, are refused.
     Wire full_cartesian = repeated(kFull, zeros3);
     full_cartesian[kFull * 3 - 2] = 0x40;  // the last vector's x
+    const Wire cart = {0x01, 0x40, 0xC0, 0x10};  // x 1, y -1, length 0.25
     kovrel_test::expect_sets({
-        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].x", real_value(1.984375), AST_FIELD_SET_OK, {0x01, 0x7F, 0xC0, 0x10}},
-        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].y", real_value(-2.0), AST_FIELD_SET_OK, {0x01, 0x40, 0x80, 0x10}},
-        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].x", real_value(2.0), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x40, 0xC0, 0x10}},
-        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].y", real_value(-2.015625), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x40, 0xC0, 0x10}},
-        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].length", real_value(4.0), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x40, 0xC0, 0x10}},
-        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[0].length", real_value(-0.015625), AST_FIELD_SET_OUT_OF_RANGE, {0x01, 0x40, 0xC0, 0x10}},
-        {8036, {0x01, 0x40, 0xC0, 0x10}, "vectors[2].y", real_value(0.5), AST_FIELD_SET_OK,
+        {8036, cart, "vectors[0].x", real_value(1.984375), AST_FIELD_SET_OK, {0x01, 0x7F, 0xC0, 0x10}},
+        {8036, cart, "vectors[0].y", real_value(-2.0), AST_FIELD_SET_OK, {0x01, 0x40, 0x80, 0x10}},
+        {8036, cart, "vectors[0].x", real_value(2.0), AST_FIELD_SET_OUT_OF_RANGE, cart},
+        {8036, cart, "vectors[0].y", real_value(-2.015625), AST_FIELD_SET_OUT_OF_RANGE, cart},
+        {8036, cart, "vectors[0].length", real_value(4.0), AST_FIELD_SET_OUT_OF_RANGE, cart},
+        {8036, cart, "vectors[0].length", real_value(-0.015625), AST_FIELD_SET_OUT_OF_RANGE, cart},
+        {8036, cart, "vectors[2].y", real_value(0.5), AST_FIELD_SET_OK,
          {0x03, 0x40, 0xC0, 0x10, 0x00, 0x00, 0x00, 0x00, 0x20, 0x00}},
         {8036, {0x00}, "vectors[254].x", real_value(1.0), AST_FIELD_SET_OK, full_cartesian},
         {8036, {0x00}, "vectors[255].x", real_value(1.0), AST_FIELD_SET_OUT_OF_RANGE, {0x00}},
