@@ -92,8 +92,9 @@ def _apply_filter(reader: "_kovrel.Reader", filter: Union[None, str, Sequence[st
         reader.add_filter(text)
 
 
-def _open(source: Source, uap: str) -> "_kovrel.Reader":
+def _open(source: Source, uap: str, framing: str) -> "_kovrel.Reader":
     reader = _kovrel.Reader(uap)
+    reader.set_framing(framing)
     if isinstance(source, (bytes, bytearray, memoryview)):
         reader.open_buffer("(memory)", memoryview(source).cast("B"))
     elif isinstance(source, (str, _os.PathLike)):
@@ -124,7 +125,7 @@ def _warn(reader: "_kovrel.Reader") -> None:
 
 
 def decode(source: Source, uap: str = "auto", filter: Union[None, str, Sequence[str]] = None,
-           batch: int = 512) -> Iterator[Dict[str, Any]]:
+           batch: int = 512, framing: str = "auto") -> Iterator[Dict[str, Any]]:
     """Yields the records of a recording as dicts.
 
     ``source`` is bytes, a path or a binary file object holding a pcap or
@@ -147,8 +148,15 @@ def decode(source: Source, uap: str = "auto", filter: Union[None, str, Sequence[
     --filter`` takes them (``"callsign=DLH4AB"``, ``"sacsic=025/013"``,
     ``"mode3a=7700"``; see ``keywords()``). A filter that cannot be read
     raises ``ValueError`` listing the keywords.
+
+    ``framing`` is the recorder framing around the blocks of a file and of
+    each UDP payload, as ``kovrel decode --framing`` takes it: ``"auto"``
+    (told by content), ``"none"`` (blocks back to back), ``"oradis"``,
+    ``"final"`` or ``"length"``. Records of framed files with time stamps
+    are located ``packet`` (the frame, from 1) plus ``offset`` in the frame
+    and carry the frame's ``time``. Another name raises ``ValueError``.
     """
-    reader = _open(source, uap)
+    reader = _open(source, uap, framing)
     _apply_filter(reader, filter)
     loads = _json.loads
     while True:
@@ -167,7 +175,8 @@ def _as_date(date: Union[None, str, _datetime.date]) -> Optional[_datetime.date]
 
 
 def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None, uap: str = "auto",
-                 date: Union[None, str, _datetime.date] = None, filter: Union[None, str, Sequence[str]] = None):
+                 date: Union[None, str, _datetime.date] = None, filter: Union[None, str, Sequence[str]] = None,
+                 framing: str = "auto"):
     """One row per record, in the columns of ``kovrel decode --format csv``.
 
     ``columns`` names record columns (``block``, ``cat``, ``uap``, ...),
@@ -181,6 +190,8 @@ def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None
     ``mode3a``, ...), ``time`` as UTC timestamps, and ``tod`` as a
     timedelta since midnight, or as UTC timestamps on ``date`` when a date
     is given. An item field takes the type of its values.
+
+    ``uap``, ``filter`` and ``framing`` are those of ``decode()``.
     """
     import numpy as np
     import pandas as pd
@@ -192,7 +203,7 @@ def to_dataframe(source: Source, columns: Union[None, str, Sequence[str]] = None
     else:
         wanted = ",".join(columns)
     day = _as_date(date)
-    reader = _open(source, uap)
+    reader = _open(source, uap, framing)
     _apply_filter(reader, filter)
     raw = reader.columns(wanted)
     _warn(reader)

@@ -96,6 +96,11 @@ public:
         if (!stream_.add_filter(text, error)) throw py::value_error(error);
     }
 
+    void set_framing(const std::string &name) {
+        if (!stream_.set_framing(name))
+            throw py::value_error("unknown framing \"" + name + "\": use auto, none, oradis, final or length");
+    }
+
     void open_path(const std::string &path) {
         std::string error;
         bool ok;
@@ -536,6 +541,7 @@ PYBIND11_MODULE(_kovrel, m) {
     py::class_<Reader>(m, "Reader")
         .def(py::init<const std::string &>(), py::arg("uap") = "auto")
         .def("add_filter", &Reader::add_filter)
+        .def("set_framing", &Reader::set_framing)
         .def("open_path", &Reader::open_path)
         .def("open_fd", &Reader::open_fd)
         .def("open_buffer", &Reader::open_buffer)

@@ -7,8 +7,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <pcap/pcap.h>
-
 namespace kovrel_py {
 namespace {
 
@@ -30,13 +28,38 @@ RecordStream::RecordStream(const AstUap *uap) : decoder_(uap) {}
 RecordStream::~RecordStream() { close(); }
 
 void RecordStream::close() {
-    if (pcap_) pcap_close(pcap_);
-    pcap_ = nullptr;
+    capture_.close();
+    capturing_ = false;
+    pieces_.reset();
+    octets_ = nullptr;
+    octets_size_ = 0;
     if (map_) munmap(map_, map_size_);
     map_ = nullptr;
     owned_.clear();
     chunk_left_ = false;
-    capture_done_ = true;
+}
+
+bool RecordStream::set_framing(const std::string &name) {
+    if (name == "auto") {
+        framing_auto_ = true;
+        return true;
+    }
+    if (!kovrel_tool::parse_framing(name, framing_)) return false;
+    framing_auto_ = false;
+    return true;
+}
+
+kovrel_tool::Framing RecordStream::framing_of(const uint8_t *data, size_t size, bool at_end, bool payload) const {
+    if (!framing_auto_) return framing_;
+    // Most payloads are plain blocks: only the others are looked at closer.
+    if (payload && kovrel_tool::blocks_fill(data, size)) return kovrel_tool::Framing::None;
+    return kovrel_tool::detect_framing(data, size, at_end);
+}
+
+uint64_t RecordStream::octets_done() const {
+    if (capturing_ || !octets_) return 0;
+    if (chunk_left_) return static_cast<uint64_t>(chunk_.data - octets_) + pos_;
+    return pieces_ ? pieces_->position() : octets_size_;
 }
 
 void RecordStream::message(const std::string &text) { messages_.push_back(name_ + ": " + text); }
@@ -172,24 +195,17 @@ bool RecordStream::open_memory(const std::string &name, const uint8_t *data, siz
 }
 
 bool RecordStream::open_capture(std::FILE *file, std::string &error) {
-    char errbuf[PCAP_ERRBUF_SIZE] = {0};
-    pcap_ = pcap_fopen_offline_with_tstamp_precision(file, PCAP_TSTAMP_PRECISION_NANO, errbuf);
-    if (!pcap_) {
-        std::fclose(file);  // libpcap keeps the stream only on success
-        error = name_ + ": not a readable capture: " + errbuf;
+    std::string why;
+    if (!capture_.open(file, why)) {
+        error = name_ + ": not a readable capture: " + why;
         return false;
     }
-    capture_ = kovrel_tool::CaptureStats{};
-    capture_.linktype = pcap_datalink(pcap_);
-    if (!kovrel_tool::linktype_supported(capture_.linktype)) {
-        const char *link = pcap_datalink_val_to_name(capture_.linktype);
-        error = name_ + ": not a readable capture: link type " + std::string(link ? link : "unknown") + " (" +
-                std::to_string(capture_.linktype) + ") is not supported";
-        pcap_close(pcap_);
-        pcap_ = nullptr;
+    if (!kovrel_tool::linktype_supported(capture_.linktype())) {
+        error = name_ + ": not a readable capture: " + capture_.linktype_problem();
+        capture_.close();
         return false;
     }
-    capture_done_ = false;
+    capturing_ = true;
     chunk_left_ = false;
     return true;
 }
@@ -206,53 +222,65 @@ void RecordStream::start_octets(InputKind kind, const uint8_t *data, size_t size
         data = owned_.data();
         size = owned_.size();
     }
-    chunk_ = kovrel_tool::Chunk{};
-    chunk_.data = data;
-    chunk_.size = size;
-    pos_ = 0;
-    chunk_left_ = size > 0;
+    octets_ = data;
+    octets_size_ = size;
+    chunk_left_ = false;
+    if (size == 0) return;
+    pieces_ = std::make_unique<kovrel_tool::ChunkStream>(framing_of(data, size < kHead ? size : kHead, size <= kHead, false),
+                                                         data, size);
 }
 
 void RecordStream::finish_capture() {
-    capture_done_ = true;
-    if (capture_.fragments)
-        message(std::to_string(capture_.fragments) + " IP fragments skipped (fragments are not reassembled)");
-    if (capture_.truncated)
-        message(std::to_string(capture_.truncated) + " packets skipped: cut short by the capture or malformed");
-    if (capture_.udp == 0 && capture_.packets > 0) message("no UDP datagram in the capture");
+    if (!capture_.read_error().empty()) message("capture ends early: " + capture_.read_error());
+    for (const std::string &text : kovrel_tool::capture_messages(capture_.stats())) message(text);
 }
 
-// The next UDP payload of a capture that holds octets.
-bool RecordStream::next_chunk() {
-    if (!pcap_ || capture_done_) return false;
-    pcap_pkthdr *header = nullptr;
-    const u_char *data = nullptr;
-    int rc;
-    while ((rc = pcap_next_ex(pcap_, &header, &data)) == 1) {
-        ++capture_.packets;
-        kovrel_tool::Payload payload;
-        switch (kovrel_tool::udp_payload(capture_.linktype, data, header->caplen, payload)) {
-        case kovrel_tool::FrameResult::Udp:
-            ++capture_.udp;
-            chunk_ = kovrel_tool::Chunk{};
-            chunk_.where = kovrel_tool::Location{capture_.packets, 0};
-            chunk_.data = payload.data;
-            chunk_.size = payload.size;
-            chunk_.time = static_cast<double>(header->ts.tv_sec) + static_cast<double>(header->ts.tv_usec) * 1e-9;
-            chunk_.src = payload.src;
-            chunk_.dst = payload.dst;
-            pos_ = 0;
-            chunk_left_ = payload.size > 0;
-            if (chunk_left_) return true;
-            break;
-        case kovrel_tool::FrameResult::NotUdp: ++capture_.not_udp; break;
-        case kovrel_tool::FrameResult::Fragment: ++capture_.fragments; break;
-        case kovrel_tool::FrameResult::Truncated: ++capture_.truncated; break;
+// The next chunk of blocks of the file or payload being cut; skipped
+// octets are reported on the way.
+bool RecordStream::next_piece() {
+    kovrel_tool::Piece piece;
+    while (pieces_ && pieces_->next(piece)) {
+        if (piece.kind == kovrel_tool::Piece::Kind::Skipped) {
+            message(std::to_string(piece.skipped) + " octets from " + kovrel_tool::format_location(piece.where) +
+                    " on are skipped: " + piece.why);
+            continue;
         }
+        chunk_ = piece.chunk;
+        if (capturing_) {
+            chunk_.src = payload_.src;
+            chunk_.dst = payload_.dst;
+        }
+        pos_ = 0;
+        chunk_left_ = chunk_.size > 0;
+        if (chunk_left_) return true;
     }
-    if (rc == PCAP_ERROR) message(std::string("capture ends early: ") + pcap_geterr(pcap_));
-    finish_capture();
+    pieces_.reset();
     return false;
+}
+
+// The next chunk of blocks: of the file, or of the capture's UDP payloads.
+bool RecordStream::next_chunk() {
+    for (;;) {
+        if (next_piece()) return true;
+        if (!capturing_) return false;
+        kovrel_tool::CapturedUdp udp;
+        if (!capture_.next(udp)) {
+            finish_capture();
+            capturing_ = false;
+            return false;
+        }
+        payload_ = udp.chunk();
+        if (payload_.size == 0) continue;
+        const kovrel_tool::Framing framing = framing_of(payload_.data, payload_.size, true, true);
+        if (framing == kovrel_tool::Framing::None) {
+            chunk_ = payload_;
+            pos_ = 0;
+            chunk_left_ = true;
+            return true;
+        }
+        pieces_ = std::make_unique<kovrel_tool::ChunkStream>(framing, payload_.data, payload_.size, udp.packet,
+                                                             payload_.time);
+    }
 }
 
 // A mapped file's pages stay resident once read, and a long recording would

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "block_runner.h"
+#include "capture_reader.h"
 #include "counted.h"
 #include "blocks.h"
 #include "output.h"
@@ -254,18 +255,7 @@ bool DecodeSession::decode_capture(const std::string &name, std::FILE *file) {
     }
     stats_.add_capture(capture);
     if (!error.empty()) message(name, "capture ends early: " + error);
-    if (capture.fragments_refused)
-        message(name, counted(capture.fragments_refused, "fragmented datagram") +
-                          " given up: overlapping or inconsistent fragments");
-    if (capture.fragments_evicted)
-        message(name, counted(capture.fragments_evicted, "fragmented datagram") +
-                          " given up: too many waiting for their fragments at once");
-    if (capture.fragments_incomplete)
-        message(name, counted(capture.fragments_incomplete, "fragmented datagram") +
-                          " incomplete at the end of the capture");
-    if (capture.truncated)
-        message(name, counted(capture.truncated, "packet") + " skipped: cut short by the capture or malformed");
-    if (capture.udp == 0 && capture.packets > 0) message(name, "no UDP datagram in the capture");
+    for (const std::string &text : capture_messages(capture)) message(name, text);
     return true;
 }
 
