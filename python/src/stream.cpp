@@ -228,6 +228,10 @@ void RecordStream::start_octets(InputKind kind, const uint8_t *data, size_t size
     if (size == 0) return;
     pieces_ = std::make_unique<kovrel_tool::ChunkStream>(framing_of(data, size < kHead ? size : kHead, size <= kHead, false),
                                                          data, size);
+    // Cutting the whole input at once would read every block header, and
+    // so every page of a mapped file, before the first record: the input
+    // is cut a window at a time.
+    pieces_->limit_chunks(1u << 20);
 }
 
 void RecordStream::finish_capture() {
