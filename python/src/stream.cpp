@@ -253,6 +253,7 @@ bool RecordStream::next_piece() {
         if (capturing_) {
             chunk_.src = payload_.src;
             chunk_.dst = payload_.dst;
+            chunk_.received = payload_.received;
         }
         pos_ = 0;
         chunk_left_ = chunk_.size > 0;

@@ -122,7 +122,10 @@ private:
     void decode_octets(const std::string &name, InputKind kind, const uint8_t *data, size_t size);
     // Decodes the pieces a stream has ready. mapped: the stream's octets
     // are a mapped file, whose pages are given back as they are decoded.
-    void decode_pieces(const std::string &name, ChunkStream &stream, const uint8_t *mapped = nullptr);
+    // packet: the UDP payload the stream cuts (its sender and destination
+    // go with every piece).
+    void decode_pieces(const std::string &name, ChunkStream &stream, const uint8_t *mapped = nullptr,
+                       const Chunk *packet = nullptr);
     // Octets of raw input: the framing to read them with.
     Framing framing_of(const uint8_t *head, size_t size, bool at_end) const;
     // A UDP payload, plain or framed.

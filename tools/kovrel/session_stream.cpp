@@ -21,7 +21,8 @@ Framing DecodeSession::framing_of(const uint8_t *head, size_t size, bool at_end)
     return detect_framing(head, size, at_end);
 }
 
-void DecodeSession::decode_pieces(const std::string &name, ChunkStream &stream, const uint8_t *mapped) {
+void DecodeSession::decode_pieces(const std::string &name, ChunkStream &stream, const uint8_t *mapped,
+                                  const Chunk *packet) {
     Piece piece;
     const size_t page = static_cast<size_t>(sysconf(_SC_PAGESIZE));
     size_t released = 0;
@@ -36,6 +37,11 @@ void DecodeSession::decode_pieces(const std::string &name, ChunkStream &stream, 
     };
     while (!output_failed_ && stream.next(piece)) {
         if (piece.kind == Piece::Kind::Blocks) {
+            if (packet) {
+                piece.chunk.src = packet->src;
+                piece.chunk.dst = packet->dst;
+                piece.chunk.received = packet->received;
+            }
             decode_chunk(name, piece.chunk, false);
             if (mapped) release();
             continue;
@@ -57,7 +63,7 @@ bool DecodeSession::decode_payload(const std::string &name, const Chunk &chunk) 
                                                    : settings_.framing;
     if (framing == Framing::None) return decode_chunk(name, chunk, false);
     ChunkStream frames(framing, chunk.data, chunk.size, chunk.where.packet, chunk.time);
-    decode_pieces(name, frames);
+    decode_pieces(name, frames, nullptr, &chunk);
     return !output_failed_;
 }
 
