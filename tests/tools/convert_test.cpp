@@ -8,6 +8,7 @@
 
 #include <pcap/pcap.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -232,8 +233,8 @@ TEST(ConvertTool, CapturesKeepTimeStampsAndAddressing) {
     for (const Expect &e : cases) {
         const Converted r = convert({capture}, e.drop);
         ASSERT_TRUE(r.capture);
-        EXPECT_EQ(r.messages, "kovrel: in1: 1 packets are not whole UDP datagrams (other protocols, IP fragments or "
-                              "packets cut short) and are not converted\n");
+        EXPECT_EQ(r.messages, "kovrel: in1: 1 packets are not whole UDP datagrams (other protocols or packets cut "
+                              "short) and are not converted\n");
         int linktype = -1;
         const std::vector<Packet> packets = read_packets(r.out, linktype);
         EXPECT_EQ(linktype, 1);
@@ -303,6 +304,83 @@ TEST(ConvertTool, CapturesOfOtherLinkTypesAndMixedInputs) {
     EXPECT_EQ(r.out, concat({b001, b001, b001}));
     EXPECT_EQ(r.messages, "");
     EXPECT_EQ(r.counts.converted_001, 3u);
+}
+
+// IPv4 fragments of a datagram, `size` octets of it each (the last one
+// what is left).
+std::vector<Octets> ipv4_fragments(const Octets &datagram, size_t size) {
+    std::vector<Octets> frames;
+    for (size_t at = 0; at < datagram.size(); at += size) {
+        const size_t end = std::min(datagram.size(), at + size);
+        const Octets part(datagram.begin() + static_cast<std::ptrdiff_t>(at),
+                          datagram.begin() + static_cast<std::ptrdiff_t>(end));
+        const uint16_t word = static_cast<uint16_t>((end < datagram.size() ? 0x2000 : 0) | at / 8);
+        frames.push_back(ethernet(0x0800, ipv4(part, 17, word)));
+    }
+    return frames;
+}
+
+// An IPv6 fragment (fragment header, then the part).
+Octets ipv6_fragment(const Octets &part, size_t offset, bool more) {
+    Octets header = {17, 0};
+    put16(header, static_cast<uint32_t>(offset | (more ? 1 : 0)));
+    put32(header, 0x77, true);
+    return ethernet(0x86DD, ipv6(concat({header, part}), 44));
+}
+
+TEST(ConvertTool, FragmentedDatagramsGoOutWhole) {
+    const Octets b048 = from_hex(kBlock048), b001 = from_hex(kBlock001);
+    // A CAT021 block passed unchanged makes the IPv4 datagram longer than
+    // an Ethernet frame: it goes out as one packet all the same.
+    Octets b021 = {0x15, 0x0B, 0xB8};
+    b021.resize(3000, 0x80);
+    const Octets v4 = udp_checked(concat({b048, b021}), 5000, 9600);
+    const Octets v6 = udp_checked(b048, 6000, 9700);
+    const Octets v6_head(v6.begin(), v6.begin() + 16), v6_tail(v6.begin() + 16, v6.end());
+    std::vector<Octets> frames = ipv4_fragments(v4, 1480);  // packets 1 to 3
+    ASSERT_EQ(frames.size(), 3u);
+    frames.insert(frames.begin() + 1, ethernet(0x0800, ipv4(udp(b048))));  // a whole datagram between them
+    frames.push_back(ipv6_fragment(v6_tail, 16, false));  // the IPv6 datagram's fragments out of order
+    frames.push_back(ipv6_fragment(v6_head, 0, true));
+    frames.push_back(ipv4_fragments(v4, 1480)[0]);  // a datagram never completed
+
+    struct Expect {
+        size_t packet;  // the input packet written (0-based)
+        int version;
+        Octets payload;
+        Octets ports;
+    };
+    const Expect expected[] = {
+        {1, 4, b001, {0x0F, 0xA0, 0x21, 0x98}},
+        {3, 4, concat({b001, b021}), {0x13, 0x88, 0x25, 0x80}},
+        {5, 6, b001, {0x17, 0x70, 0x25, 0xE4}},
+    };
+    const Converted r = convert({pcap_file(1, frames)});
+    EXPECT_EQ(r.messages, "kovrel: in1: 1 fragmented datagram incomplete at the end of the capture\n");
+    EXPECT_EQ(r.counts.packets_read, 3u);
+    int linktype = -1;
+    const std::vector<Packet> packets = read_packets(r.out, linktype);
+    ASSERT_EQ(packets.size(), std::size(expected));
+    for (size_t i = 0; i < packets.size(); ++i) {
+        const Expect &e = expected[i];
+        const Octets &out = packets[i].frame;
+        EXPECT_EQ(packets[i].seconds, 1715680800 + static_cast<int64_t>(e.packet)) << i;
+        EXPECT_EQ(payload_of(1, out), e.payload) << i;
+        const size_t udp_at = 14 + (e.version == 4 ? 20 : 40);
+        EXPECT_EQ(out.size(), udp_at + 8 + e.payload.size()) << i;
+        EXPECT_EQ(Octets(out.begin() + static_cast<std::ptrdiff_t>(udp_at), out.begin() + static_cast<std::ptrdiff_t>(udp_at + 4)),
+                  e.ports)
+            << i;
+        EXPECT_TRUE(udp_checksum_ok(out, 14)) << i;
+        if (e.version == 4) {
+            EXPECT_EQ(out[20] << 8 | out[21], i == 0 ? 0x4000 : 0) << i;  // no fragment flag or offset left
+            EXPECT_EQ(static_cast<size_t>(out[16] << 8 | out[17]), 20 + 8 + e.payload.size()) << i;
+            EXPECT_EQ(internet_checksum(out.data() + 14, 20), 0u) << i;
+        } else {
+            EXPECT_EQ(out[20], 17);  // the fragment header is gone
+            EXPECT_EQ(static_cast<size_t>(out[18] << 8 | out[19]), 8 + e.payload.size());
+        }
+    }
 }
 
 TEST(ConvertTool, RebuildRefusesWhatCannotBeAFrame) {

@@ -102,7 +102,7 @@ bool CaptureReader::next(CapturedUdp &out) {
     return false;
 }
 
-std::vector<std::string> capture_messages(const CaptureStats &capture) {
+std::vector<std::string> fragment_messages(const CaptureStats &capture) {
     std::vector<std::string> out;
     if (capture.fragments_refused)
         out.push_back(counted(capture.fragments_refused, "fragmented datagram") +
@@ -113,6 +113,11 @@ std::vector<std::string> capture_messages(const CaptureStats &capture) {
     if (capture.fragments_incomplete)
         out.push_back(counted(capture.fragments_incomplete, "fragmented datagram") +
                       " incomplete at the end of the capture");
+    return out;
+}
+
+std::vector<std::string> capture_messages(const CaptureStats &capture) {
+    std::vector<std::string> out = fragment_messages(capture);
     if (capture.truncated)
         out.push_back(counted(capture.truncated, "packet") + " skipped: cut short by the capture or malformed");
     if (capture.udp == 0 && capture.packets > 0) out.push_back("no UDP datagram in the capture");

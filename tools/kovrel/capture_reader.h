@@ -68,6 +68,9 @@ private:
     std::string error_;
 };
 
+// The messages about fragmented datagrams given up or left incomplete.
+std::vector<std::string> fragment_messages(const CaptureStats &stats);
+
 // The messages a decode gives about what became of a capture's packets
 // (fragments given up or incomplete, packets cut short, no UDP at all),
 // without the input's name.

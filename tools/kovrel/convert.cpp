@@ -1,7 +1,5 @@
 #include "convert.h"
 
-#include <pcap/pcap.h>
-
 #include <cerrno>
 #include <cmath>
 #include <cstring>
@@ -10,6 +8,7 @@
 #include <sys/stat.h>
 
 #include "blocks.h"
+#include "capture_reader.h"
 #include "counted.h"
 
 namespace kovrel_tool {
@@ -384,16 +383,14 @@ bool ConvertSession::convert_octets(const std::string &name, const uint8_t *data
 }
 
 bool ConvertSession::convert_capture(const std::string &name, std::FILE *file) {
-    char errbuf[PCAP_ERRBUF_SIZE] = {0};
-    pcap_t *pcap = pcap_fopen_offline_with_tstamp_precision(file, PCAP_TSTAMP_PRECISION_NANO, errbuf);
-    if (!pcap) {
-        std::fclose(file);
-        unreadable(name, std::string("not a readable capture: ") + errbuf);
+    CaptureReader reader;
+    std::string why;
+    if (!reader.open(file, why)) {
+        unreadable(name, "not a readable capture: " + why);
         return false;
     }
-    const int linktype = pcap_datalink(pcap);
+    const int linktype = reader.linktype();
     if (!linktype_supported(linktype)) {
-        pcap_close(pcap);
         unreadable(name, "not a readable capture: link type " + std::to_string(linktype) + " is not supported");
         return false;
     }
@@ -401,7 +398,6 @@ bool ConvertSession::convert_capture(const std::string &name, std::FILE *file) {
         kind_ = Output::Pcap;
         if (!pcap_.begin(linktype)) failed_write();
     } else if (kind_ == Output::Pcap && linktype != pcap_.linktype()) {
-        pcap_close(pcap);
         ++converter_.counts().skipped;
         converter_.message(name, "link type " + std::to_string(file_linktype(linktype)) + " differs from the " +
                                      std::to_string(file_linktype(pcap_.linktype())) +
@@ -409,48 +405,44 @@ bool ConvertSession::convert_capture(const std::string &name, std::FILE *file) {
         return true;
     }
     ConvertCounts &counts = converter_.counts();
-    uint64_t packet = 0, other = 0;
-    pcap_pkthdr *header = nullptr;
-    const u_char *data = nullptr;
-    int rc = 0;
-    while (!output_failed_ && (rc = pcap_next_ex(pcap, &header, &data)) == 1) {
-        ++packet;
-        Payload payload;
-        if (udp_payload(linktype, data, header->caplen, payload) != FrameResult::Udp) {
-            ++other;
-            continue;
-        }
+    CapturedUdp udp;
+    while (!output_failed_ && reader.next(udp)) {
         ++counts.packets_read;
-        Chunk chunk;
-        chunk.where = Location{packet, 0};
-        chunk.data = payload.data;
-        chunk.size = payload.size;
         blocks_.clear();
-        converter_.convert(name, chunk, blocks_);
+        converter_.convert(name, udp.chunk(), blocks_);
         if (kind_ == Output::Raw) {
             write_raw(blocks_);
             continue;
         }
         if (blocks_.empty()) continue;
         std::string error;
-        if (!rebuild_frame(linktype, data, header->caplen, static_cast<size_t>(payload.data - data), blocks_.data(),
-                           blocks_.size(), frame_, error)) {
+        // A datagram put together from fragments goes out whole, as one
+        // packet at its last fragment.
+        const bool ok =
+            udp.reassembled
+                ? reassembled_frame(linktype, udp.frame, udp.caplen, udp.udp_header, blocks_.data(), blocks_.size(),
+                                    frame_, error)
+                : rebuild_frame(linktype, udp.frame, udp.caplen, static_cast<size_t>(udp.payload.data - udp.frame),
+                                blocks_.data(), blocks_.size(), frame_, error);
+        if (!ok) {
             ++counts.skipped;
-            converter_.message(name, "pkt " + std::to_string(packet) + ": " + error + "; not written");
+            converter_.message(name, "pkt " + std::to_string(udp.packet) + ": " + error + "; not written");
             continue;
         }
-        // Read with nanosecond precision: tv_usec holds nanoseconds.
-        if (!pcap_.packet(header->ts.tv_sec, static_cast<uint32_t>(header->ts.tv_usec), frame_.data(), frame_.size()))
+        if (!pcap_.packet(udp.seconds, udp.nanoseconds, frame_.data(), frame_.size()))
             failed_write();
         else
             ++counts.packets_written;
     }
-    if (!output_failed_ && rc == PCAP_ERROR) converter_.message(name, std::string("capture ends early: ") + pcap_geterr(pcap));
-    pcap_close(pcap);
-    if (other)
+    if (!output_failed_ && !reader.read_error().empty())
+        converter_.message(name, "capture ends early: " + reader.read_error());
+    const CaptureStats stats = reader.stats();
+    if (const uint64_t other = stats.not_udp + stats.truncated)
         converter_.message(name, std::to_string(other) +
-                                     " packets are not whole UDP datagrams (other protocols, IP fragments or "
-                                     "packets cut short) and are not converted");
+                                     " packets are not whole UDP datagrams (other protocols or packets cut short) "
+                                     "and are not converted");
+    if (!output_failed_)
+        for (const std::string &text : fragment_messages(stats)) converter_.message(name, text);
     return true;
 }
 

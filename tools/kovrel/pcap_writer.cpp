@@ -151,4 +151,24 @@ bool rebuild_frame(int linktype, const uint8_t *frame, size_t caplen, size_t pay
     return true;
 }
 
+bool reassembled_frame(int linktype, const uint8_t *frame, size_t caplen, const uint8_t *udp_header,
+                       const uint8_t *payload, size_t payload_size, std::vector<uint8_t> &out, std::string &error) {
+    size_t ip = 0;
+    const int version = network_offset(linktype, frame, caplen, ip) && ip < caplen ? frame[ip] >> 4 : 0;
+    const size_t header = version == 4 ? static_cast<size_t>(frame[ip] & 0x0F) * 4 : 40;
+    if ((version != 4 && version != 6) || header < 20 || ip + header > caplen) {
+        error = "the IP header of the packet cannot be found";
+        return false;
+    }
+    std::vector<uint8_t> head(frame, frame + ip + header);
+    if (version == 4) {
+        head[ip + 6] &= 0xC0;  // keep the reserved and don't-fragment flags only
+        head[ip + 7] = 0;
+    } else {
+        head[ip + 6] = 17;  // next header: UDP
+    }
+    head.insert(head.end(), udp_header, udp_header + 8);
+    return rebuild_frame(linktype, head.data(), head.size(), head.size(), payload, payload_size, out, error);
+}
+
 }  // namespace kovrel_tool

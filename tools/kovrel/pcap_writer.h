@@ -48,6 +48,17 @@ private:
 bool rebuild_frame(int linktype, const uint8_t *frame, size_t caplen, size_t payload_offset,
                    const uint8_t *payload, size_t payload_size, std::vector<uint8_t> &out, std::string &error);
 
+// The same for a datagram put together from fragments: `frame` is one of
+// its fragments as captured, `udp_header` the datagram's 8-octet UDP
+// header. The new frame has that fragment's link header and IP header
+// (IPv4 without its fragment flag and offset; IPv6 its 40-octet header
+// alone, the extension headers left out), then the UDP header and
+// `payload`, lengths and checksums made to match: one packet, which may be
+// longer than the link's MTU. False, with the reason in `error`, as
+// rebuild_frame.
+bool reassembled_frame(int linktype, const uint8_t *frame, size_t caplen, const uint8_t *udp_header,
+                       const uint8_t *payload, size_t payload_size, std::vector<uint8_t> &out, std::string &error);
+
 // The Internet checksum (ones' complement of the ones' complement sum of
 // 16-bit words) of data, starting from a partial sum.
 // The link type number a capture file stores for a DLT value.
