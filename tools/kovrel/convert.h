@@ -90,8 +90,10 @@ struct ConvertSettings {
 // output (nanosecond time stamps, the link type of that capture), in which
 // each UDP packet of the inputs keeps its time stamp and headers and gets
 // the converted payload (packets left without a payload are not written;
-// packets that are not UDP, IP fragments and packets cut short are not
-// written either); any other input makes raw blocks written back to back.
+// packets that are not UDP and packets cut short are not written either;
+// a datagram put together from IP fragments is written whole, as one
+// packet at its last fragment); any other input makes raw blocks written
+// back to back.
 // Into a pcap output a raw or hex input, or a capture of another link type,
 // cannot go: it is reported and skipped. Into raw output the UDP payloads
 // of a capture go as blocks.
