@@ -67,7 +67,9 @@ FrameResult ipv6_transport(uint8_t next, const uint8_t *p, size_t off, size_t en
     for (int hops = 0; hops < 32; ++hops) {
         switch (next) {
         case 17:
-            set_payload_addresses(out, 6, p + 8, p + 24);
+            // A reassembled datagram has no header here: its reader sets
+            // the addresses from the fragments'.
+            if (ip) set_payload_addresses(out, 6, ip + 8, ip + 24);
             return udp(p + off, end - off, out);
         case 0:    // hop-by-hop options
         case 43:   // routing
