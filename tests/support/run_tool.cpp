@@ -13,13 +13,19 @@ namespace kovrel_test {
 namespace {
 
 // Starts `kovrel args...` with pipes for its standard input, output and
-// error (the parent's ends are in[1], out[0], err[0]); the child's pid, or -1.
+// error (the parent keeps in[1], out[0], err[0]); the child's pid, or -1.
 pid_t spawn(const std::vector<std::string> &args, int in[2], int out[2], int err[2]) {
 #ifdef KOVREL_TOOL_BINARY
     if (pipe2(in, O_CLOEXEC) != 0) return -1;
     if (pipe2(out, O_CLOEXEC) != 0 || pipe2(err, O_CLOEXEC) != 0) return -1;
     const pid_t pid = fork();
-    if (pid != 0) return pid;
+    if (pid != 0) {
+        close(in[0]);
+        close(out[1]);
+        close(err[1]);
+        signal(SIGPIPE, SIG_IGN);
+        return pid;
+    }
     dup2(in[0], 0);
     dup2(out[1], 1);
     dup2(err[1], 2);
@@ -38,6 +44,15 @@ pid_t spawn(const std::vector<std::string> &args, int in[2], int out[2], int err
 #endif
 }
 
+// The status of a reaped child as a shell gives it: its exit code, or 128 +
+// the signal that ended it (SIGKILL when the run was cut short).
+int exit_status(int status, bool killed) {
+    if (killed) return 128 + SIGKILL;
+    if (WIFEXITED(status)) return WEXITSTATUS(status);
+    if (WIFSIGNALED(status)) return 128 + WTERMSIG(status);
+    return -1;
+}
+
 }  // namespace
 
 bool tool_available() {
@@ -54,10 +69,6 @@ ToolRun run_tool(const std::vector<std::string> &args, const std::string &input,
     int in[2], out[2], err[2];
     const pid_t pid = spawn(args, in, out, err);
     if (pid < 0) return run;
-    close(in[0]);
-    close(out[1]);
-    close(err[1]);
-    signal(SIGPIPE, SIG_IGN);
     fcntl(in[1], F_SETFL, O_NONBLOCK);
     size_t sent = 0;
     int to_child = in[1];
@@ -100,12 +111,7 @@ ToolRun run_tool(const std::vector<std::string> &args, const std::string &input,
     close(err[0]);
     int status = 0;
     waitpid(pid, &status, 0);
-    if (killed)
-        run.status = 128 + SIGKILL;
-    else if (WIFEXITED(status))
-        run.status = WEXITSTATUS(status);
-    else if (WIFSIGNALED(status))
-        run.status = 128 + WTERMSIG(status);
+    run.status = exit_status(status, killed);
 #else
     (void)args;
     (void)input;
@@ -118,10 +124,6 @@ bool ToolProcess::start(const std::vector<std::string> &args) {
     int in[2], out[2], err[2];
     const pid_t pid = spawn(args, in, out, err);
     if (pid < 0) return false;
-    close(in[0]);
-    close(out[1]);
-    close(err[1]);
-    signal(SIGPIPE, SIG_IGN);
     pid_ = pid;
     in_ = in[1];
     out_ = out[0];
@@ -223,12 +225,7 @@ ToolRun ToolProcess::finish(int timeout_seconds) {
     int status = 0;
     if (pid_ > 0) waitpid(pid_, &status, 0);
     pid_ = -1;
-    if (killed)
-        run.status = 128 + SIGKILL;
-    else if (WIFEXITED(status))
-        run.status = WEXITSTATUS(status);
-    else if (WIFSIGNALED(status))
-        run.status = 128 + WTERMSIG(status);
+    run.status = exit_status(status, killed);
     run.out = std::move(out_buf_);
     run.err = std::move(err_buf_);
     return run;

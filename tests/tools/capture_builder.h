@@ -37,6 +37,31 @@ inline Octets concat(std::initializer_list<Octets> parts) {
 }
 
 // A CAT048 block of records holding I048/010 alone (FSPEC 80, SAC, SIC).
+// Frames around blocks, as recorders write them: ORADIS (length counting the
+// 6-octet header, then a time stamp in ms), FINAL (length counting header and
+// trailer, board, line, day, time of day in 10 ms; trailer A5 x 4) and the
+// plain 2-octet length.
+inline Octets oradis(const Octets &blocks, uint32_t ms) {
+    Octets o;
+    put16(o, static_cast<uint32_t>(blocks.size() + 6));
+    put32(o, ms, true);
+    return concat({o, blocks});
+}
+
+inline Octets final_frame(const Octets &blocks, uint8_t day, uint32_t tod10ms, uint8_t board = 1, uint8_t line = 2) {
+    Octets o;
+    put16(o, static_cast<uint32_t>(blocks.size() + 12));
+    o.insert(o.end(), {board, line, day, static_cast<uint8_t>(tod10ms >> 16), static_cast<uint8_t>(tod10ms >> 8),
+                       static_cast<uint8_t>(tod10ms)});
+    return concat({o, blocks, {0xA5, 0xA5, 0xA5, 0xA5}});
+}
+
+inline Octets length_frame(const Octets &blocks) {
+    Octets o;
+    put16(o, static_cast<uint32_t>(blocks.size()));
+    return concat({o, blocks});
+}
+
 inline Octets sacsic_block(uint8_t sic, size_t records = 1) {
     Octets b = {48, 0, 0};
     for (size_t i = 0; i < records; ++i) {

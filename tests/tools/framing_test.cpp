@@ -15,28 +15,6 @@ using namespace kovrel_tool_test;
 
 namespace {
 
-// Frames around blocks, as recorders write them.
-Octets oradis(const Octets &blocks, uint32_t ms) {
-    Octets o;
-    put16(o, static_cast<uint32_t>(blocks.size() + 6));
-    put32(o, ms, true);
-    return concat({o, blocks});
-}
-
-Octets final_frame(const Octets &blocks, uint8_t day, uint32_t tod10ms) {
-    Octets o;
-    put16(o, static_cast<uint32_t>(blocks.size() + 12));
-    o.insert(o.end(), {1, 2, day, static_cast<uint8_t>(tod10ms >> 16), static_cast<uint8_t>(tod10ms >> 8),
-                       static_cast<uint8_t>(tod10ms)});
-    return concat({o, blocks, {0xA5, 0xA5, 0xA5, 0xA5}});
-}
-
-Octets length_frame(const Octets &blocks) {
-    Octets o;
-    put16(o, static_cast<uint32_t>(blocks.size()));
-    return concat({o, blocks});
-}
-
 // Everything a stream hands out, one line per piece:
 // "blocks LOCATION SIZE TIME" or "skipped LOCATION COUNT: WHY".
 std::vector<std::string> pieces(ChunkStream &s) {

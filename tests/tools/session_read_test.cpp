@@ -55,13 +55,6 @@ Outcome decode(const Octets &octets, bool from_file) {
     return o;
 }
 
-Octets oradis(const Octets &blocks, uint32_t ms) {
-    Octets o;
-    put16(o, static_cast<uint32_t>(blocks.size() + 6));
-    put32(o, ms, true);
-    return concat({o, blocks});
-}
-
 }  // namespace
 
 TEST(ToolSessionRead, FilesReadLikeMemory) {

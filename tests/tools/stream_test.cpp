@@ -31,27 +31,6 @@ std::string text(const Octets &o) { return std::string(o.begin(), o.end()); }
 
 bool has(const std::string &s, const std::string &part) { return s.find(part) != std::string::npos; }
 
-Octets oradis(const Octets &blocks, uint32_t ms) {
-    Octets o;
-    put16(o, static_cast<uint32_t>(blocks.size() + 6));
-    put32(o, ms, true);
-    return concat({o, blocks});
-}
-
-Octets final_frame(const Octets &blocks, uint8_t day, uint32_t tod10ms) {
-    Octets o;
-    put16(o, static_cast<uint32_t>(blocks.size() + 12));
-    o.insert(o.end(), {3, 1, day, static_cast<uint8_t>(tod10ms >> 16), static_cast<uint8_t>(tod10ms >> 8),
-                       static_cast<uint8_t>(tod10ms)});
-    return concat({o, blocks, {0xA5, 0xA5, 0xA5, 0xA5}});
-}
-
-Octets length_frame(const Octets &blocks) {
-    Octets o;
-    put16(o, static_cast<uint32_t>(blocks.size()));
-    return concat({o, blocks});
-}
-
 std::string hex_lines(const Octets &o) {
     std::string s;
     char b[4];
@@ -98,7 +77,7 @@ TEST_F(ToolStream, EveryInputKindOnStandardInput) {
         {"xxd", "00000000: 3000 0680 1901  0.....\n", {}, {"1@0"}},
         {"oradis", text(concat({oradis(kA, 1500), oradis(kB, 86399999), oradis(kC, 0)})), {},
          {"1@6/1/1.500000", "2@6/2/86399.999000", "2@6/2/86399.999000", "3@6/3/0.000000"}},
-        {"final", text(concat({final_frame(concat({kA, kB}), 2, 50), final_frame(kC, 2, 60)})), {},
+        {"final", text(concat({final_frame(concat({kA, kB}), 2, 50, 3, 1), final_frame(kC, 2, 60, 3, 1)})), {},
          {"1@8/1/172800.500000", "2@14/1/172800.500000", "2@14/1/172800.500000", "3@8/2/172800.600000"}},
         {"length", text(concat({length_frame(kA), length_frame(kB), length_frame(kC)})), {},
          {"1@2", "2@10", "2@10", "3@21"}},

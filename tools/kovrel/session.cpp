@@ -125,6 +125,17 @@ void DecodeSession::check_output() {
     }
 }
 
+bool DecodeSession::decode_file_stream(const std::string &path, std::FILE *file, uint64_t total) {
+    const int fd = dup(fileno(file));
+    std::fclose(file);
+    if (fd < 0) {
+        ++stats_.inputs;
+        unreadable(path, std::string("cannot read: ") + std::strerror(errno));
+        return false;
+    }
+    return decode_stream(path, fd, total);
+}
+
 bool DecodeSession::decode_file(const std::string &path) {
     block_no_ = 0;
     if (path == "-") return decode_stream("(standard input)", STDIN_FILENO);
@@ -138,14 +149,7 @@ bool DecodeSession::decode_file(const std::string &path) {
     struct stat st;
     if (settings_.follow || fstat(fileno(file), &st) != 0 || !S_ISREG(st.st_mode) ||
         std::fseek(file, 0, SEEK_END) != 0) {
-        const int fd = dup(fileno(file));
-        std::fclose(file);
-        if (fd < 0) {
-            ++stats_.inputs;
-            unreadable(path, std::string("cannot read: ") + std::strerror(errno));
-            return false;
-        }
-        return decode_stream(path, fd);
+        return decode_file_stream(path, file);
     }
     ++stats_.inputs;
     const long end = std::ftell(file);
@@ -170,14 +174,7 @@ bool DecodeSession::decode_file(const std::string &path) {
     if (kind == InputKind::Hex) {
         // Text is read line by line: memory holds no copy of it.
         --stats_.inputs;
-        const int fd = dup(fileno(file));
-        std::fclose(file);
-        if (fd < 0) {
-            ++stats_.inputs;
-            unreadable(path, std::string("cannot read: ") + std::strerror(errno));
-            return false;
-        }
-        return decode_stream(path, fd, total);
+        return decode_file_stream(path, file, total);
     }
 
     // A regular file is mapped rather than read: the blocks are decoded

@@ -118,6 +118,8 @@ private:
     // Decodes what a descriptor delivers as it arrives (total: its size
     // when known, for progress; 0 otherwise). Closes fd unless it is 0.
     bool decode_stream(const std::string &name, int fd, uint64_t total = 0);
+    // The same for an opened file (its descriptor is taken over, the FILE closed).
+    bool decode_file_stream(const std::string &path, std::FILE *file, uint64_t total = 0);
     bool decode_capture(const std::string &name, std::FILE *file);
     void decode_octets(const std::string &name, InputKind kind, const uint8_t *data, size_t size);
     // Decodes the pieces a stream has ready. mapped: the stream's octets
