@@ -156,6 +156,8 @@ int decode_live(DecodeSession &session, const LiveOptions &options, std::FILE *m
                         if (!session.decode_datagram(s.name, chunk, s.blocks)) done = true;
                         if (options.count && records_so_far(session.stats()) >= options.count) done = true;
                     }
+                    // The records of a batch go out together, as soon as it is decoded.
+                    if (!session.write_out()) done = true;
                     if (!done && !recorder.flush(error)) {
                         std::fprintf(messages, "kovrel: writing %s failed: %s\n", options.record.c_str(),
                                      error.c_str());

@@ -86,11 +86,14 @@ public:
     bool decode_memory(const std::string &name, const uint8_t *data, size_t size);
 
     // Live input (session_live.cpp): one more input for the counts, and one
-    // datagram of it decoded as a chunk and its records written out at once
-    // (flushed to out). `blocks` is the input's running block number, kept
-    // by the caller as inputs interleave. False once writing failed.
+    // datagram of it decoded as a chunk (write_out() then writes its records).
+    // `blocks` is the input's running block number, kept by the caller as
+    // inputs interleave. False once writing failed.
     void add_live_input(const CaptureStats &datagrams);
     bool decode_datagram(const std::string &name, const Chunk &chunk, uint64_t &blocks);
+    // Writes the records decoded so far to out at once (after each batch of
+    // datagrams received). False once writing failed.
+    bool write_out();
 
     // Writes what follows to out: records as lines, or, with a page, the
     // records and the messages (these still go to `messages` as well) into

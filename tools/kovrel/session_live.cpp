@@ -14,6 +14,10 @@ bool DecodeSession::decode_datagram(const std::string &name, const Chunk &chunk,
     block_no_ = blocks;
     decode_chunk(name, chunk, false);
     blocks = block_no_;
+    return !output_failed_;
+}
+
+bool DecodeSession::write_out() {
     flush();
     if (!output_failed_ && out_ && std::fflush(out_) != 0) {
         output_failed_ = true;
