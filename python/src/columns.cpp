@@ -5,6 +5,8 @@
 #include <cstring>
 #include <limits>
 
+#include "field_path.h"
+
 namespace kovrel_py {
 namespace {
 
@@ -311,46 +313,12 @@ int ColumnSink::group_of(AstItemId id) {
 
 // Walks one item's fields keeping the dotted path of the field visited (as
 // the CSV writer does) and puts the values of the paths asked.
-struct ColumnWalk {
+struct ColumnWalk : kovrel_tool::FieldPath {
     ColumnWalk(ColumnSink &s, const std::vector<size_t> &c) : sink(s), columns(c), left(c.size()) {}
 
     ColumnSink &sink;
     const std::vector<size_t> &columns;
     size_t left;
-    static constexpr size_t kDepth = 40;
-    char path[512];
-    size_t length = 0;
-    size_t starts[kDepth];
-    size_t depth = 0;
-    size_t overflow_at = 0;
-
-    void push(const AstField &f) {
-        if (depth < kDepth) starts[depth] = length;
-        ++depth;
-        if (overflow_at) return;
-        char seg[24];
-        const char *s = f.name;
-        size_t n;
-        if (s) {
-            n = std::strlen(s);
-        } else {
-            n = static_cast<size_t>(std::to_chars(seg, seg + sizeof seg, f.index).ptr - seg);
-            s = seg;
-        }
-        if (depth > kDepth || length + 1 + n > sizeof path) {
-            overflow_at = depth;
-            return;
-        }
-        if (length) path[length++] = '.';
-        std::memcpy(path + length, s, n);
-        length += n;
-    }
-    void pop() {
-        if (depth == 0) return;
-        if (overflow_at == depth) overflow_at = 0;
-        --depth;
-        if (!overflow_at && depth < kDepth) length = starts[depth];
-    }
 
     static void put(Column &col, const AstField &f) {
         switch (f.kind) {

@@ -1,5 +1,7 @@
 #include "output_csv.h"
 
+#include "field_path.h"
+
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -145,47 +147,12 @@ int CsvWriter::group_of(AstItemId id) {
 
 // Walks one item's fields, keeping the dotted path of the field visited,
 // and fills the cells of the paths asked.
-struct CsvWalk {
+struct CsvWalk : FieldPath {
     CsvWalk(CsvWriter &w, const std::vector<size_t> &c) : writer(w), columns(c), left(c.size()) {}
 
     CsvWriter &writer;
     const std::vector<size_t> &columns;
     size_t left;                // paths not found yet
-    static constexpr size_t kDepth = 40;
-    char path[512];
-    size_t length = 0;          // of the path
-    size_t starts[kDepth];      // where the segment of each open level starts
-    size_t depth = 0;
-    size_t overflow_at = 0;     // the level whose segment did not fit (0: none); nothing below it matches
-
-    // Appends the segment of a field (its name, or its position in an array).
-    void push(const AstField &f) {
-        if (depth < kDepth) starts[depth] = length;
-        ++depth;
-        if (overflow_at) return;
-        char seg[24];
-        const char *s = f.name;
-        size_t n;
-        if (s) {
-            n = std::strlen(s);
-        } else {
-            n = static_cast<size_t>(std::to_chars(seg, seg + sizeof seg, f.index).ptr - seg);
-            s = seg;
-        }
-        if (depth > kDepth || length + 1 + n > sizeof path) {
-            overflow_at = depth;
-            return;
-        }
-        if (length) path[length++] = '.';
-        std::memcpy(path + length, s, n);
-        length += n;
-    }
-    void pop() {
-        if (depth == 0) return;
-        if (overflow_at == depth) overflow_at = 0;
-        --depth;
-        if (!overflow_at && depth < kDepth) length = starts[depth];
-    }
 
     // The cell text of a value.
     static std::string_view value_text(const AstField &f, char *buf, size_t size) {
